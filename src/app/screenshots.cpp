@@ -1,0 +1,72 @@
+// Saves a picture of every window of the program into a folder, for review. It runs in a
+// fresh program folder with the example watershed loaded, so windows show real data.
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <iostream>
+
+#include "session/app_context.h"
+#include "session/file_commands.h"
+#include "session/main_window.h"
+#include "session/qt_platform.h"
+#include "session/window_catalog.h"
+
+namespace {
+
+// Answers every question with its first button, so no window waits for a person.
+class UnattendedPlatform : public brooklet::QtPlatform {
+public:
+    brooklet::BoxAnswer showBox(const brooklet::BoxRequest& box) override {
+        return box.buttons == brooklet::BoxButtons::Ok || box.buttons == brooklet::BoxButtons::OkCancel
+                   ? brooklet::BoxAnswer::Ok
+                   : brooklet::BoxAnswer::Yes;
+    }
+    std::optional<std::string> showOpenDialog(const brooklet::FileDialogSettings&) override { return {}; }
+    std::optional<std::string> showSaveDialog(const brooklet::FileDialogSettings&) override { return {}; }
+};
+
+bool save(QWidget* window, const QString& folder, const QString& name) {
+    window->adjustSize();
+    const bool ok = window->grab().save(QDir(folder).filePath(name + ".png"));
+    std::cout << (ok ? "saved " : "FAILED ") << name.toStdString() << "\n";
+    return ok;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    QApplication app(argc, argv);
+    const QString target = QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString("screenshots")).absolutePath();
+    QDir().mkpath(target);
+
+    QTemporaryDir programFolder;
+    for (const QString& source : {QString(BROOKLET_DATA_DIR), QString(BROOKLET_EXAMPLES_DIR)})
+        for (const QString& file : QDir(source).entryList(QDir::Files))
+            QFile::copy(QDir(source).filePath(file), QDir(programFolder.path()).filePath(file));
+    QDir::setCurrent(programFolder.path());
+
+    UnattendedPlatform platform;
+    brooklet::AppContext context(platform);
+    brooklet::registerAllWindows(context.windows);
+    brooklet::frmMain main(context);
+    main.show();
+    bool ok = save(&main, target, "frmMain");
+
+    const QStringList examples = QDir(programFolder.path()).entryList({"*.inp"}, QDir::Files);
+    if (!examples.isEmpty()) {
+        context.session.CurrentFile = brooklet::pathFromQt(QDir(programFolder.path()).filePath(examples.first()));
+        brooklet::LoadInputFile(context);
+        // ReOpen Last Session shows the loaded file the way a user returns to it.
+        main.fileCommand(3);
+        main.Form_Activate();
+        ok = save(&main, target, "frmMain_loaded") && ok;
+    }
+    for (const QString& name : context.windows.registeredNames()) {
+        if (QWidget* window = context.windows.ShowWindowAtOrigin(name))
+            ok = save(window, target, name) && ok;
+    }
+    return ok ? 0 : 1;
+}

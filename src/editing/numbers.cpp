@@ -1,0 +1,155 @@
+#include "editing/numbers.h"
+
+#include <cerrno>
+#include <cfloat>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace brooklet {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isSign(char c) { return c == '+' || c == '-'; }
+bool isBlank(char c) { return c == ' '; }
+
+// Parses the trimmed text and, on success, gives the plain form that strtod reads:
+// sign, digits, point, exponent with E.
+std::optional<std::string> plainNumber(const std::string& raw) {
+    const std::string text = trim(raw);
+    size_t i = 0;
+    const size_t n = text.size();
+    char sign = 0;
+    bool currency = false;
+    // Leading sign and currency sign, in either order, each at most once.
+    for (int k = 0; k < 2 && i < n; ++k) {
+        if (isSign(text[i]) && !sign) {
+            sign = text[i++];
+        } else if (text[i] == '$' && !currency) {
+            currency = true;
+            ++i;
+        }
+        while (i < n && isBlank(text[i]))
+            ++i;
+    }
+    std::string plain;
+    if (sign == '-')
+        plain += '-';
+    size_t digits = 0;
+    // Whole part: digits, thousands separators only between digits.
+    while (i < n) {
+        if (isDigit(text[i])) {
+            plain += text[i++];
+            ++digits;
+        } else if (text[i] == ',' && digits > 0 && i + 1 < n && isDigit(text[i + 1])) {
+            ++i;
+        } else {
+            break;
+        }
+    }
+    if (i < n && text[i] == '.') {
+        plain += text[i++];
+        while (i < n && isDigit(text[i])) {
+            plain += text[i++];
+            ++digits;
+        }
+    }
+    if (digits == 0)
+        return std::nullopt;
+    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        plain += 'E';
+        ++i;
+        if (i < n && isSign(text[i]))
+            plain += text[i++];
+        size_t exponentDigits = 0;
+        while (i < n && isDigit(text[i])) {
+            plain += text[i++];
+            ++exponentDigits;
+        }
+        if (exponentDigits == 0)
+            return std::nullopt;
+    }
+    if (i < n && text[i] == '$' && !currency) {
+        currency = true;
+        ++i;
+    }
+    while (i < n && isBlank(text[i]))
+        ++i;
+    // A sign behind the number, when none stood before it.
+    if (i < n && isSign(text[i]) && !sign) {
+        if (text[i] == '-')
+            plain.insert(plain.begin(), '-');
+        ++i;
+    }
+    if (i != n)
+        return std::nullopt;
+    return plain;
+}
+
+} // namespace
+
+std::string trim(const std::string& text) {
+    size_t first = 0;
+    size_t last = text.size();
+    while (first < last && isBlank(text[first]))
+        ++first;
+    while (last > first && isBlank(text[last - 1]))
+        --last;
+    return text.substr(first, last - first);
+}
+
+std::string toUpper(std::string text) {
+    for (char& c : text)
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    return text;
+}
+
+bool isNumericText(const std::string& text) { return plainNumber(text).has_value(); }
+
+std::optional<double> numericValue(const std::string& text) {
+    const auto plain = plainNumber(text);
+    if (!plain)
+        return std::nullopt;
+    errno = 0;
+    const double value = std::strtod(plain->c_str(), nullptr);
+    if (errno == ERANGE && std::isinf(value))
+        return std::nullopt;
+    if (!std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+std::optional<float> toSingle(const std::string& text) {
+    const auto value = numericValue(text);
+    if (!value || std::fabs(*value) > FLT_MAX)
+        return std::nullopt;
+    return static_cast<float>(*value);
+}
+
+double roundHalfEven(double value) {
+    const double floor = std::floor(value);
+    const double fraction = value - floor;
+    if (fraction > 0.5)
+        return floor + 1.0;
+    if (fraction < 0.5)
+        return floor;
+    return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
+}
+
+double roundHalfEven(double value, int decimals) {
+    const double scale = std::pow(10.0, decimals);
+    return roundHalfEven(value * scale) / scale;
+}
+
+std::optional<int16_t> toInteger16(const std::string& text) {
+    const auto value = numericValue(text);
+    if (!value)
+        return std::nullopt;
+    const double rounded = roundHalfEven(*value);
+    if (rounded < std::numeric_limits<int16_t>::min() || rounded > std::numeric_limits<int16_t>::max())
+        return std::nullopt;
+    return static_cast<int16_t>(rounded);
+}
+
+} // namespace brooklet

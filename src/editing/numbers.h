@@ -1,0 +1,36 @@
+#pragma once
+// The number rules every window uses: what a typed text must look like to count as a number,
+// its value, the conversions to single precision and to 16-bit integers, and rounding.
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace brooklet {
+
+// True when the text, trimmed, is a number: an optional sign before or after it, a currency
+// sign, digits with thousands separators, one decimal point and an E or D exponent.
+bool isNumericText(const std::string& text);
+
+// The value of a numeric text; nothing when the text is not numeric or beyond double range.
+std::optional<double> numericValue(const std::string& text);
+
+// The value as a single-precision real; nothing when it lies beyond that range.
+std::optional<float> toSingle(const std::string& text);
+
+// The value rounded to the nearest whole number, a half going to the even neighbour,
+// as a 16-bit integer; nothing when it lies beyond that range.
+std::optional<int16_t> toInteger16(const std::string& text);
+
+// Rounds to the nearest whole number, halves to the even neighbour.
+double roundHalfEven(double value);
+
+// Rounds to the given number of decimals, halves to the even neighbour.
+double roundHalfEven(double value, int decimals);
+
+// Trims blanks on both sides (only the blank character, as the file format counts it).
+std::string trim(const std::string& text);
+
+// Upper case of ASCII letters; other bytes stay as they are.
+std::string toUpper(std::string text);
+
+} // namespace brooklet

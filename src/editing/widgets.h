@@ -1,0 +1,62 @@
+#pragma once
+// Small helpers every window uses: names of controls and control arrays, accessible names,
+// text conversion between file bytes and Qt, and the field colours.
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+#include <map>
+#include <string>
+
+#include "editing/colours.h"
+
+namespace brooklet {
+
+// File text goes through the program byte for byte.
+inline QString fromBytes(const std::string& bytes) {
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+inline std::string toBytes(const QString& text) { return text.toLatin1().toStdString(); }
+
+// Paths are in the file system's own encoding.
+QString pathToQt(const std::string& path);
+std::string pathFromQt(const QString& path);
+
+// "txtInp(3)": the name of element Index of a control array.
+QString indexedName(const QString& name, int index);
+
+// Gives a control its design name and the name a screen reader speaks.
+void nameControl(QObject* control, const QString& name, const QString& accessibleName = QString());
+
+QColor toQColor(Rgb colour);
+Rgb fromQColor(const QColor& colour);
+// The background of a text box, list or other control, through its palette.
+void setBackground(QWidget* control, Rgb colour);
+Rgb background(const QWidget* control);
+
+// A control array: controls that share a name and differ by a meaningful index.
+template <typename T> class ControlArray {
+public:
+    void add(int index, T* control) { controls_[index] = control; }
+    T* operator()(int index) const {
+        auto it = controls_.find(index);
+        return it == controls_.end() ? nullptr : it->second;
+    }
+    bool contains(int index) const { return controls_.count(index) != 0; }
+    const std::map<int, T*>& all() const { return controls_; }
+
+private:
+    std::map<int, T*> controls_;
+};
+
+// Element Index of Target takes the background colour and the text of element Index of Source.
+template <typename T> void CopyControlState(const ControlArray<T>& Source, ControlArray<T>& Target, int Index) {
+    T* source = Source(Index);
+    T* target = Target(Index);
+    if (!source || !target)
+        return;
+    setBackground(target, background(source));
+    target->setText(source->text());
+}
+
+} // namespace brooklet

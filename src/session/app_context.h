@@ -1,0 +1,22 @@
+#pragma once
+// What the program holds as a whole: the session, the platform services and the open windows.
+// Windows receive it by reference; a test makes its own in its own program folder.
+#include "session/platform.h"
+#include "session/section_table.h"
+#include "session/window_host.h"
+
+namespace brooklet {
+
+struct AppContext {
+    explicit AppContext(Platform& platform) : platform(platform), windows(*this) {}
+    AppContext(const AppContext&) = delete;
+    AppContext& operator=(const AppContext&) = delete;
+
+    Session session;
+    Platform& platform;
+    WindowHost windows;
+    // Index of the alternate that the sub-area and reach windows work on; 0 for the base data.
+    int CurrentAlternate = 0;
+};
+
+} // namespace brooklet

@@ -1,0 +1,43 @@
+#pragma once
+// The input file as a container of sections: loading cuts it into work files at its section
+// headers, saving joins the work files in the input file's own order.
+#include <optional>
+#include <string>
+
+#include "session/messages.h"
+#include "session/section_table.h"
+#include "session/text_file.h"
+
+namespace brooklet {
+
+// The order of the sections in a saved input file, as section numbers.
+extern const int SaveOrder[SectionCount];
+
+struct LoadResult {
+    // The box to show: a missing file or an unknown section header.
+    std::optional<BoxRequest> box;
+};
+
+// Cuts the file named by CurrentFile into the work files. A missing file makes the session
+// untitled; an unknown header stops the load and keeps what was read before it. For a named
+// file, work file 16 then holds its path.
+LoadResult LoadInputFile(Session& session);
+
+// Copies the section whose header line is Line, and the records behind it up to a blank line
+// or the end of the input, to the work file at Path, replacing what it held.
+void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete);
+
+// Adds the cross sections that the reformatter wrote at CurrentFile to work file 7.
+void AppendReformattedSections(const Session& session);
+
+struct SaveResult {
+    bool ok = true;
+    // The box to show: saved, or why nothing was saved.
+    BoxRequest box;
+};
+
+// Joins the work files into CurrentFile, writes work file 16, clears DataChanged and deletes
+// the result files of that name. When the file cannot be written, nothing else changes.
+SaveResult SaveInputFile(Session& session);
+
+} // namespace brooklet

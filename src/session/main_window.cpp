@@ -1,0 +1,490 @@
+#include "session/main_window.h"
+
+#include "session/app_context.h"
+#include "session/file_commands.h"
+#include "session/input_file.h"
+#include "session/text_file.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace brooklet {
+namespace {
+
+const char* const DesignCaption = "Brooklet System Controller /  Editor ";
+const char* const Disclaimer =
+    "Although the Brooklet system software has been tested by its developers, NO warranty, expressed or "
+    "implied, is made as to the accuracy and functioning of the programs and related program material nor "
+    "shall the fact of distribution constitute any such warranty, and NO responsibility is assumed by the "
+    "developers in connection therewith.";
+
+const char* const EditorWindows[] = {"",           "frmAlternate", "frmDimHyd",  "frmDurInc",      "frmGlobal",
+                                     "frmInpHyd",  "frmRainDist",  "frmXsect",   "frmReaches",     "frmStorm",
+                                     "frmStruct",  "frmSubArea",   "frmTimeA",   "frmFlume",       "frmVerification"};
+
+// Builds the items of a menu array; indexes without a caption are separators.
+void addMenuItems(QMenu* menu, const QString& arrayName, int first, int last,
+                  const std::map<int, QString>& captions, ControlArray<QAction>& items) {
+    for (int index = first; index <= last; ++index) {
+        QAction* action = nullptr;
+        auto caption = captions.find(index);
+        if (caption == captions.end()) {
+            action = menu->addSeparator();
+        } else {
+            action = menu->addAction(caption->second);
+        }
+        action->setObjectName(indexedName(arrayName, index));
+        items.add(index, action);
+    }
+}
+
+} // namespace
+
+QString editorWindowName(int section) {
+    return section >= 1 && section <= 14 ? QString(EditorWindows[section]) : QString();
+}
+
+void UpdateViewMenu(AppContext& context, QWidget* window) {
+    const Session& session = context.session;
+    auto item = [window](int index) { return window->findChild<QAction*>(indexedName("mnuViewItem", index)); };
+    for (int index : {0, 1, 4, 5, 6, 7, 8})
+        if (QAction* action = item(index))
+            action->setEnabled(false);
+    bool anyFile = false;
+    if (hasLineAfterFirst(session.WorkFilePath[ReachSection])) {
+        item(0)->setEnabled(true);
+        anyFile = true;
+    }
+    if (session.DataChanged)
+        return;
+    // The untitled marker is "> Untitled <", so this holds for every session.
+    if (session.CurrentFile != "<untitled>") {
+        item(1)->setEnabled(true);
+        anyFile = true;
+    }
+    const std::string base = BaseName(session.CurrentFile);
+    int index = 4;
+    for (const char* extension : {"out", "err", "dbg", "hyd", "ecn"}) {
+        if (hasLineAfterFirst(base + extension)) {
+            item(index)->setEnabled(true);
+            anyFile = true;
+        }
+        ++index;
+    }
+    if (auto* menu = window->findChild<QMenu*>("mnuView"))
+        menu->menuAction()->setVisible(anyFile);
+}
+
+frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
+    setObjectName("frmMain");
+    setWindowTitle(DesignCaption);
+    buildControls();
+    buildMenus();
+    context_.windows.adopt("frmMain", this);
+
+    Session& session = context_.session;
+    session.ToolName.clear();
+    session.EnglishUnits = true;
+    StartSession(session, currentFolder());
+    move(0, 0);
+    Form_Activate();
+}
+
+void frmMain::buildControls() {
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+
+    lblFlume = new QLabel("Brooklet System Controller / Editor", central);
+    nameControl(lblFlume, "lblFlume", lblFlume->text());
+    QFont titleFont = lblFlume->font();
+    titleFont.setPointSize(titleFont.pointSize() + 6);
+    titleFont.setBold(true);
+    lblFlume->setFont(titleFont);
+    lblFlume->setAlignment(Qt::AlignCenter);
+    layout->addWidget(lblFlume);
+
+    Frame1 = new QGroupBox(central);
+    nameControl(Frame1, "Frame1", "Disclaimer");
+    auto* frame1Layout = new QVBoxLayout(Frame1);
+    auto* text1 = new QLabel("Disclaimer", Frame1);
+    nameControl(text1, "Text1", text1->text());
+    text1->setAlignment(Qt::AlignCenter);
+    lblDisclaimer = new QLabel(Disclaimer, Frame1);
+    nameControl(lblDisclaimer, "lblDisclaimer", lblDisclaimer->text());
+    lblDisclaimer->setWordWrap(true);
+    frame1Layout->addWidget(text1);
+    frame1Layout->addWidget(lblDisclaimer);
+    layout->addWidget(Frame1);
+
+    cmdHelp = new QPushButton(" New User ?    Click Here", central);
+    nameControl(cmdHelp, "cmdHelp", cmdHelp->text());
+    layout->addWidget(cmdHelp, 0, Qt::AlignHCenter);
+    connect(cmdHelp, &QPushButton::clicked, this, [this] {
+        for (const char* name : {"frmGettingStarted", "frmHelpFac", "frmOverview"})
+            context_.windows.ShowWindowAtOrigin(name);
+    });
+
+    Frame2 = new QGroupBox(central);
+    nameControl(Frame2, "Frame2", "Sections");
+    auto* frame2Layout = new QVBoxLayout(Frame2);
+    auto* marks = new QLabel("(X indicates some data entered for section)", Frame2);
+    nameControl(marks, indexedName("Text2", 0), marks->text());
+    CurrentLst = new QListWidget(Frame2);
+    nameControl(CurrentLst, "CurrentLst", "Click Data Section Name to Enter Data");
+    QFont fixed("Monospace");
+    fixed.setStyleHint(QFont::TypeWriter);
+    CurrentLst->setFont(fixed);
+    auto* clickHint = new QLabel("Click Data Section Name to Enter Data", Frame2);
+    nameControl(clickHint, indexedName("Text2", 1), clickHint->text());
+    frame2Layout->addWidget(marks);
+    frame2Layout->addWidget(CurrentLst);
+    frame2Layout->addWidget(clickHint);
+    layout->addWidget(Frame2);
+    Frame2->hide();
+
+    connect(CurrentLst, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { openSection(CurrentLst->row(item) + 1); });
+    CurrentLst->installEventFilter(this);
+    setCentralWidget(central);
+    resize(560, 520);
+}
+
+void frmMain::buildMenus() {
+    QMenuBar* bar = menuBar();
+    mnuFile = bar->addMenu("File");
+    mnuFile->setObjectName("mnuFile");
+    addMenuItems(mnuFile, "mnuFileItem", 1, 18,
+                 {{1, "New Brooklet File"},
+                  {2, "Open Existing Brooklet File"},
+                  {3, "ReOpen Last Session"},
+                  {6, "Convert old Data"},
+                  {7, "Import HEC-RAS"},
+                  {10, "Local Land Use"},
+                  {11, "Local Soil / HSG"},
+                  {14, "Save"},
+                  {15, "Save As"},
+                  {18, "Exit"}},
+                 fileItems_);
+    for (const auto& [index, action] : fileItems_.all())
+        if (!action->isSeparator())
+            connect(action, &QAction::triggered, this, [this, index = index] { fileCommand(index); });
+    fileItem(14)->setEnabled(false);
+    fileItem(15)->setEnabled(false);
+
+    auto spacer = [bar](const char* name) {
+        QMenu* menu = bar->addMenu("    ");
+        menu->setObjectName(name);
+        menu->setEnabled(false);
+    };
+    spacer("mnuSpace1");
+
+    mnuView = bar->addMenu("View");
+    mnuView->setObjectName("mnuView");
+    addMenuItems(mnuView, "mnuViewItem", 0, 8,
+                 {{0, "Schematic"},
+                  {1, "Input File"},
+                  {4, "Printed Page File"},
+                  {5, "Error File"},
+                  {6, "Debug File"},
+                  {7, "Hydrograph File"},
+                  {8, "FloodEcon File"}},
+                 viewItems_);
+    connect(viewItems_(0), &QAction::triggered, this, [this] { context_.windows.ShowWindowAtOrigin("frmTopoModel"); });
+    for (int index : {1, 4, 5, 6, 7, 8})
+        connect(viewItems_(index), &QAction::triggered, this, [this, index] {
+            context_.session.ViewIndex = static_cast<short>(index);
+            context_.windows.ShowWindowAtOrigin("frmFileDisp");
+        });
+
+    spacer("mnuspace4");
+    mnuRun = bar->addAction("Run");
+    mnuRun->setObjectName("mnuRun");
+    mnuPlots = bar->addAction("Plots");
+    mnuPlots->setObjectName("mnuPlots");
+    connect(mnuPlots, &QAction::triggered, this, [this] { context_.windows.ShowWindowAtOrigin("frmGraphicsOutput"); });
+    spacer("mnuspace5");
+
+    mnuHelp = bar->addMenu("Help");
+    mnuHelp->setObjectName("mnuHelp");
+    addMenuItems(mnuHelp, "mnuHelpItem", 1, 8,
+                 {{1, "Brooklet System Diagram"},
+                  {3, "Overview"},
+                  {4, "Help Facilities"},
+                  {5, "Getting Started"},
+                  {8, "About Controller /  Editor"}},
+                 helpItems_);
+    const std::map<int, const char*> helpWindows = {
+        {1, "frmDiagram"}, {3, "frmOverview"}, {4, "frmHelpFac"}, {5, "frmGettingStarted"}, {8, "frmAbout"}};
+    for (const auto& [index, window] : helpWindows)
+        connect(helpItems_(index), &QAction::triggered, this,
+                [this, window = window] { context_.windows.ShowWindowAtOrigin(window); });
+}
+
+bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        Form_Activate();
+    return QMainWindow::event(event);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    // Enter or Space on a list entry opens its section, so the list works without a mouse.
+    if (watched == CurrentLst && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) && CurrentLst->currentRow() >= 0) {
+            openSection(CurrentLst->currentRow() + 1);
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    context_.windows.unload("frmTopoModel");
+    event->accept();
+}
+
+void frmMain::Form_Activate() {
+    const Session& session = context_.session;
+    mnuPlots->setVisible(false);
+    if (!session.DataChanged && !session.CurrentFile.empty() && !session.isUntitled()) {
+        mnuRun->setVisible(true);
+        UpdateViewMenu(context_, this);
+        if (fileExists(session.OutputPath))
+            mnuPlots->setVisible(true);
+    } else {
+        mnuRun->setVisible(false);
+        mnuView->menuAction()->setVisible(false);
+    }
+    RefreshSectionList();
+}
+
+void frmMain::RefreshSectionList() {
+    const Session& session = context_.session;
+    CurrentLst->clear();
+    for (int i = 1; i <= 14; ++i) {
+        // Opening for appending creates an empty work file for a section that has none.
+        touchFile(session.WorkFilePath[i]);
+        const std::string prefix = fileLength(session.WorkFilePath[i]) > 0 ? "X   " : "     ";
+        CurrentLst->addItem(fromBytes(prefix + session.SectionTable[i]));
+    }
+}
+
+void frmMain::openSection(int section) {
+    if (section < 1 || section > 14)
+        return;
+    pickedSection_ = section;
+    context_.CurrentAlternate = 0;
+    context_.windows.ShowWindowAtOrigin(editorWindowName(section));
+}
+
+void frmMain::fileCommand(int index) {
+    switch (index) {
+    case 1: newFile(); break;
+    case 2: openExistingFile(); break;
+    case 3: reopenLastSession(); break;
+    case 10:
+        beginFileCommand();
+        context_.windows.ShowWindowAtOrigin("frmLocalLanduse");
+        endFileCommand();
+        break;
+    case 11:
+        beginFileCommand();
+        context_.windows.ShowWindowAtOrigin("frmLocalSoil");
+        endFileCommand();
+        break;
+    case 14: saveFile(); break;
+    case 15: saveFileAs(); break;
+    case 18: exitProgram(); break;
+    default: break;
+    }
+}
+
+void frmMain::beginFileCommand() {
+    Frame1->hide();
+    cmdHelp->hide();
+    dialog_.InitDir = currentFolder();
+}
+
+void frmMain::endFileCommand() {
+    if (!context_.session.CurrentFile.empty())
+        setCaptionToCurrentFile();
+    Frame2->show();
+}
+
+void frmMain::setCaptionToCurrentFile() {
+    const Session& session = context_.session;
+    setWindowTitle(pathToQt(session.EditorTitle + "   Current File - " + session.CurrentFile));
+}
+
+void frmMain::newFile() {
+    beginFileCommand();
+    CloseInputFile();
+    context_.windows.ShowWindowAtOrigin("frmFlume");
+    endFileCommand();
+}
+
+void frmMain::openExistingFile() {
+    beginFileCommand();
+    Session& session = context_.session;
+    std::string oldName;
+    PromptBeforeLoading(oldName, "another Brooklet input data file ?", cancelled_);
+    if (!cancelled_) {
+        dialog_.Filter = std::string("Input Files (*.inp)|*.inp|") + "All files (*.*)|*.*";
+        dialog_.FileName = "*.inp";
+        dialog_.DialogTitle = "Open Brooklet file";
+        dialog_.CancelError = true;
+        dialog_.InitDir = session.LastFolder;
+        const auto chosen = context_.platform.showOpenDialog(dialog_);
+        if (!chosen)
+            return;
+        dialog_.FileName = *chosen;
+        session.LastFolder = DirectoryPart(*chosen);
+        session.CurrentFile = *chosen;
+        session.OutputPath = BaseName(session.CurrentFile) + "out";
+        setCurrentFolder(session.ProgramFolder);
+
+        LoadInputFile(context_);
+        fileItem(14)->setEnabled(true);
+        fileItem(15)->setEnabled(true);
+        session.DataChanged = false;
+        context_.windows.ShowWindowAtOrigin("frmFlume");
+    }
+    endFileCommand();
+}
+
+void frmMain::reopenLastSession() {
+    beginFileCommand();
+    Session& session = context_.session;
+    if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile]))
+        session.CurrentFile = *line;
+    if (session.CurrentFile.empty())
+        session.CurrentFile = UntitledFile;
+    if (!session.isUntitled()) {
+        fileItem(14)->setEnabled(true);
+        session.OutputPath = BaseName(session.CurrentFile) + "out";
+    }
+    fileItem(15)->setEnabled(true);
+    session.DataChanged = false;
+    context_.windows.ShowWindowAtOrigin("frmFlume");
+    endFileCommand();
+}
+
+void frmMain::saveFile() {
+    beginFileCommand();
+    // A save that failed leaves the data unsaved, and the model may not run on it.
+    if (SaveInputFile(context_))
+        mnuRun->setVisible(true);
+    UpdateViewMenu(context_, this);
+    endFileCommand();
+}
+
+void frmMain::saveFileAs() {
+    beginFileCommand();
+    dialog_.DialogTitle = "Save Brooklet file";
+    SaveInputFileAs();
+    if (!context_.session.DataChanged)
+        mnuRun->setVisible(true);
+    UpdateViewMenu(context_, this);
+    endFileCommand();
+}
+
+void frmMain::SaveInputFileAs() {
+    Session& session = context_.session;
+    if (!session.isUntitled()) {
+        const auto separator = session.CurrentFile.rfind(folderSeparator());
+        if (separator != std::string::npos) {
+            dialog_.InitDir = session.CurrentFile.substr(0, separator + 1);
+            dialog_.FileName = session.CurrentFile.substr(separator + 1);
+        }
+    }
+    dialog_.Filter = std::string("Input File (*.inp)|*.inp|") + "All files (*.*)|*.*\"*.dat";
+    dialog_.FilterIndex = 1;
+    dialog_.CancelError = true;
+    dialog_.InitDir = session.LastFolder;
+    const auto chosen = context_.platform.showSaveDialog(dialog_);
+    if (!chosen)
+        return;
+    dialog_.FileName = *chosen;
+    session.LastFolder = DirectoryPart(*chosen);
+    setCurrentFolder(session.ProgramFolder);
+
+    const BoxAnswer answer = context_.platform.showBox(
+        {"Save: " + *chosen, SystemBoxTitle, BoxButtons::YesNo, BoxIcon::Question});
+    if (answer != BoxAnswer::No) {
+        const std::string oldName = session.CurrentFile;
+        session.CurrentFile = *chosen;
+        setCaptionToCurrentFile();
+        if (SaveInputFile(context_)) {
+            session.DataChanged = false;
+        } else {
+            // Nothing was written under the new name: the session keeps its old one.
+            session.CurrentFile = oldName;
+            setCaptionToCurrentFile();
+        }
+    }
+    fileItem(14)->setEnabled(true);
+    WriteFileNameWorkFile(session);
+}
+
+void frmMain::exitProgram() {
+    Session& session = context_.session;
+    if (session.DataChanged) {
+        const BoxAnswer answer = context_.platform.showBox(
+            {"Changes have been made to the Brooklet input file - Do you want to save it?", SystemBoxTitle,
+             BoxButtons::YesNo, BoxIcon::Question});
+        if (answer == BoxAnswer::No) {
+            // "ReOpen Last Session" is to find nothing; the work files themselves stay.
+            deleteFile(session.WorkFilePath[FileNameWorkFile]);
+        } else {
+            dialog_.InitDir = session.LastFolder;
+            const auto chosen = context_.platform.showSaveDialog(dialog_);
+            if (chosen) {
+                dialog_.FileName = *chosen;
+                session.LastFolder = DirectoryPart(*chosen);
+                if (!chosen->empty()) {
+                    session.CurrentFile = *chosen;
+                    // A file that could not be written keeps the program open, so nothing is lost.
+                    if (!SaveInputFile(context_))
+                        return;
+                }
+            }
+        }
+    }
+    context_.platform.endProgram();
+}
+
+void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Prompt, bool& Cancelled) {
+    Session& session = context_.session;
+    OldName = session.CurrentFile;
+    Cancelled = false;
+    session.RunResultLabel = " ";
+    if (session.DataChanged && !session.isUntitled()) {
+        const BoxAnswer answer = context_.platform.showBox({"Save and Close current file before loading\r" + Prompt,
+                                                            DefaultBoxTitle, BoxButtons::YesNoCancel, BoxIcon::None});
+        if (answer == BoxAnswer::Cancel) {
+            Cancelled = true;
+            return;
+        }
+        if (answer == BoxAnswer::No)
+            return;
+        SaveInputFile(context_);
+    }
+    CloseInputFile();
+    OldName = " ";
+}
+
+void frmMain::CloseInputFile() {
+    context_.session.CurrentFile = UntitledFile;
+    fileItem(14)->setEnabled(false);
+    fileItem(15)->setEnabled(true);
+    ClearWorkFiles(context_.session);
+}
+
+} // namespace brooklet

@@ -1,0 +1,88 @@
+#pragma once
+// frmMain: the program's one permanent window, with the File, View, Run, Plots and Help menus
+// and the section list from which every editor window opens.
+#include <QMainWindow>
+
+#include "editing/widgets.h"
+#include "session/platform.h"
+
+class QAction;
+class QGroupBox;
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class QMenu;
+class QPushButton;
+
+namespace brooklet {
+
+struct AppContext;
+
+// The editor window of each listed section, by section number 1 to 14.
+QString editorWindowName(int section);
+
+// Enables the View items of a window that has the menu mnuView and the items mnuViewItem(i),
+// by the files that exist; shows mnuView when any item is enabled.
+void UpdateViewMenu(AppContext& context, QWidget* window);
+
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmMain(AppContext& context, QWidget* parent = nullptr);
+
+    // The activation step, run each time the window becomes the active window.
+    void Form_Activate();
+    void RefreshSectionList();
+    // Section number picked last in the section list.
+    int pickedSection() const { return pickedSection_; }
+    FileDialogSettings& CmnDialog1() { return dialog_; }
+
+    void PromptBeforeLoading(std::string& OldName, const std::string& Prompt, bool& Cancelled);
+    void CloseInputFile();
+    void SaveInputFileAs();
+
+    // The File menu's commands by item index.
+    void fileCommand(int index);
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildControls();
+    void buildMenus();
+    void beginFileCommand();
+    void endFileCommand();
+    void newFile();
+    void openExistingFile();
+    void reopenLastSession();
+    void saveFile();
+    void saveFileAs();
+    void exitProgram();
+    void openSection(int section);
+    void setCaptionToCurrentFile();
+    QAction* fileItem(int index) const { return fileItems_(index); }
+
+    AppContext& context_;
+    FileDialogSettings dialog_;
+    int pickedSection_ = 0;
+    bool cancelled_ = false;
+
+    QGroupBox* Frame1 = nullptr;
+    QGroupBox* Frame2 = nullptr;
+    QLabel* lblDisclaimer = nullptr;
+    QLabel* lblFlume = nullptr;
+    QListWidget* CurrentLst = nullptr;
+    QPushButton* cmdHelp = nullptr;
+    QMenu* mnuFile = nullptr;
+    QMenu* mnuView = nullptr;
+    QMenu* mnuHelp = nullptr;
+    QAction* mnuRun = nullptr;
+    QAction* mnuPlots = nullptr;
+    ControlArray<QAction> fileItems_;
+    ControlArray<QAction> viewItems_;
+    ControlArray<QAction> helpItems_;
+};
+
+} // namespace brooklet

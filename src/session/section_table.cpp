@@ -1,0 +1,103 @@
+#include "session/section_table.h"
+
+#include "editing/numbers.h"
+#include "session/text_file.h"
+
+namespace brooklet {
+namespace {
+
+const std::array<std::string, SectionCount + 1> Headers = {
+    "",
+    "Alternate Analysis:",
+    "Dimensionless Unit Hydrograph:",
+    "Duration Increment:",
+    "Global Output:",
+    "Input Hydrograph:",
+    "Rainfall Distribution:",
+    "Stream Cross Section:",
+    "Stream Reach:",
+    "Storm Analysis:",
+    "Structure Rating:",
+    "Sub-Area:",
+    "Time Analysis:",
+    "Brooklet: Version 1.0",
+    "Verification:",
+    "Local Land Use:",
+};
+
+const std::array<std::string, WorkFileCount + 1> WorkFileNames = {
+    "",
+    "~Alter.tmp",
+    "~Unit_Hyd.tmp",
+    "~DurInc.tmp",
+    "~Global.tmp",
+    "~InpHyd.tmp",
+    "~RainDist.tmp",
+    "~Xsect.tmp",
+    "~Reach.tmp",
+    "~Storm.tmp",
+    "~Struct.tmp",
+    "~SubArea.tmp",
+    "~TimeA.tmp",
+    "~Flumeid.tmp",
+    "~Verif.tmp",
+    "~CurveNum.tmp",
+    "~filename.tmp",
+};
+
+const std::array<std::string, ResultExtensionCount + 1> Extensions = {"", "inp", "", "", "out",
+                                                                      "err", "dbg", "hyd", "ecn"};
+
+} // namespace
+
+const std::string& sectionHeader(int section) { return Headers.at(static_cast<size_t>(section)); }
+const std::string& workFileName(int number) { return WorkFileNames.at(static_cast<size_t>(number)); }
+
+void StartSession(Session& session, const std::string& startFolder) {
+    session.EditorTitle = "Brooklet Editor 2001";
+    session.ToolName.clear();
+    session.CurrentFile = UntitledFile;
+    session.DataChanged = false;
+
+    const std::string& sep = folderSeparator();
+    session.WorkFolder = startFolder + sep + "temp" + sep;
+    session.ProgramFolder = startFolder + sep;
+    session.LastFolder = session.ProgramFolder;
+
+    session.LocalLandUseFile = session.ProgramFolder + "Local_Land_Use_Data.txt";
+    session.LocalSoilFile = session.ProgramFolder + "Local_Soil_HSG.txt";
+    session.HelpListFile = session.ProgramFolder + "BrookletHelp.lst";
+
+    if (!folderExists(session.WorkFolder))
+        createFolder(session.WorkFolder);
+
+    for (int i = 1; i <= WorkFileCount; ++i)
+        session.WorkFilePath[i] = session.WorkFolder + WorkFileNames[i];
+    for (int i = 1; i <= SectionCount; ++i)
+        session.SectionTable[i] = Headers[i];
+    for (int i = 1; i <= ResultExtensionCount; ++i)
+        session.ResultExtension[i] = Extensions[i];
+}
+
+void ClearWorkFiles(const Session& session) { deleteFilesWithExtension(session.WorkFolder, ".tmp"); }
+
+std::string BaseName(const std::string& Path) {
+    const auto point = Path.rfind('.');
+    if (point == std::string::npos)
+        return Path + ".";
+    return Path.substr(0, point + 1);
+}
+
+std::string DirectoryPart(const std::string& Path) {
+    const std::string trimmed = trim(Path);
+    const auto separator = trimmed.rfind(folderSeparator());
+    if (separator == std::string::npos)
+        return Path;
+    return trimmed.substr(0, separator + 1);
+}
+
+bool WriteFileNameWorkFile(const Session& session) {
+    return writeLines(session.WorkFilePath[FileNameWorkFile], {session.CurrentFile}).ok;
+}
+
+} // namespace brooklet

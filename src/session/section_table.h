@@ -1,0 +1,86 @@
+#pragma once
+// The numbered sections of the input file, the work files that hold them while a file is
+// edited, the result-file extensions, and the session variables all windows share.
+#include <array>
+#include <string>
+
+namespace brooklet {
+
+constexpr int SectionCount = 15;
+constexpr int WorkFileCount = 16;
+constexpr int ResultExtensionCount = 8;
+
+// Section numbers, the program's own vocabulary for the sections.
+enum SectionNumber {
+    AlternateSection = 1,
+    UnitHydrographSection = 2,
+    DurationIncrementSection = 3,
+    GlobalOutputSection = 4,
+    InputHydrographSection = 5,
+    RainfallDistributionSection = 6,
+    CrossSectionSection = 7,
+    ReachSection = 8,
+    StormSection = 9,
+    StructureSection = 10,
+    SubAreaSection = 11,
+    TimeAnalysisSection = 12,
+    IdentificationSection = 13,
+    VerificationSection = 14,
+    LocalLandUseSection = 15,
+    FileNameWorkFile = 16,
+};
+
+// Text of a file with no name.
+inline const std::string UntitledFile = "> Untitled <";
+// Title of a box that has none of its own.
+inline const std::string DefaultBoxTitle = "BrookletSystem";
+// Title the file commands give their boxes.
+inline const std::string SystemBoxTitle = "Brooklet System";
+
+// The section headers, index 1 to 15, as written in an input file.
+const std::string& sectionHeader(int section);
+// The work file names, index 1 to 16, without folder.
+const std::string& workFileName(int number);
+
+// The session variables and the tables filled once at start-up.
+struct Session {
+    std::string CurrentFile = UntitledFile;
+    bool DataChanged = false;
+    std::string WorkFolder;
+    std::string ProgramFolder;
+    std::string LastFolder;
+    std::string OutputPath;
+    std::string ToolName;
+    std::string RunResultLabel;
+    short ViewIndex = 0;
+    std::string HelpCode;
+    bool EnglishUnits = true;
+    std::string EditorTitle = "Brooklet Editor 2001";
+
+    std::array<std::string, SectionCount + 1> SectionTable;           // 1..15
+    std::array<std::string, WorkFileCount + 1> WorkFilePath;          // 1..16
+    std::array<std::string, ResultExtensionCount + 1> ResultExtension; // 1..8
+
+    std::string LocalLandUseFile;
+    std::string LocalSoilFile;
+    std::string HelpListFile;
+
+    bool isUntitled() const { return CurrentFile == UntitledFile; }
+};
+
+// Sets the tables and paths from the start folder (the current folder when the main window
+// loads) and creates the work folder if it is missing, silently.
+void StartSession(Session& session, const std::string& startFolder);
+
+// Deletes every work file, "~filename.tmp" included, silently.
+void ClearWorkFiles(const Session& session);
+
+// The path cut behind its last point, the point kept; a path with no point gets one.
+std::string BaseName(const std::string& Path);
+// The trimmed path up to and including its last folder separator; unchanged when it has none.
+std::string DirectoryPart(const std::string& Path);
+
+// Writes the input file's path as the only line of work file 16. False when it cannot be written.
+bool WriteFileNameWorkFile(const Session& session);
+
+} // namespace brooklet

@@ -1,0 +1,71 @@
+#pragma once
+// Text files as the program keeps them: whole files of lines, read in one go and written in
+// one go. Lines are written with CR LF; a reader takes CR LF, LF or a CR alone as a line end.
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brooklet {
+
+// Reads a file line by line from bytes held in memory, so "at the end" can be asked after
+// every line, as the loaders need.
+class LineReader {
+public:
+    explicit LineReader(std::string bytes) : bytes_(std::move(bytes)) {}
+    bool atEnd() const { return pos_ >= bytes_.size(); }
+    std::string readLine();
+
+private:
+    std::string bytes_;
+    size_t pos_ = 0;
+};
+
+// The whole file as bytes; nothing when it does not exist or cannot be read.
+std::optional<std::string> readFileBytes(const std::string& path);
+
+// The lines of a file; an empty list when it does not exist or cannot be read.
+std::vector<std::string> readLines(const std::string& path);
+
+// The first line of a file, if it has one.
+std::optional<std::string> readFirstLine(const std::string& path);
+
+// True when the file exists and something follows its first line: "one line read and not
+// then at its end".
+bool hasLineAfterFirst(const std::string& path);
+
+// Outcome of a write: empty error when it worked.
+struct WriteResult {
+    bool ok = true;
+    std::string error;
+};
+
+// Writes the file whole by way of a sibling file that then replaces it, so a failed write
+// leaves the file as it was.
+WriteResult writeFileAtomically(const std::string& path, const std::string& bytes);
+
+// Joins lines, each ended by CR LF.
+std::string joinLines(const std::vector<std::string>& lines);
+
+WriteResult writeLines(const std::string& path, const std::vector<std::string>& lines);
+
+// Creates the file empty when it does not exist, as an append-open does. False on failure.
+bool touchFile(const std::string& path);
+
+bool fileExists(const std::string& path);
+bool folderExists(const std::string& path);
+bool createFolder(const std::string& path);
+// Length in bytes; 0 when missing.
+std::uintmax_t fileLength(const std::string& path);
+// Deletes a file, ignoring failure.
+void deleteFile(const std::string& path);
+// Deletes every file in the folder whose name ends in the given extension (".tmp"), silently.
+void deleteFilesWithExtension(const std::string& folder, const std::string& extension);
+
+// The platform's folder separator, as text.
+const std::string& folderSeparator();
+// The process's current folder.
+std::string currentFolder();
+bool setCurrentFolder(const std::string& path);
+
+} // namespace brooklet

@@ -1,0 +1,47 @@
+#include "session/window_host.h"
+
+namespace brooklet {
+
+void WindowHost::registerWindow(const QString& name, Factory factory) { factories_[name] = std::move(factory); }
+
+void WindowHost::adopt(const QString& name, QWidget* window) { instances_[name] = window; }
+
+QWidget* WindowHost::loaded(const QString& name) const {
+    auto it = instances_.find(name);
+    return it == instances_.end() ? nullptr : it->second.data();
+}
+
+QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
+    shown_ << name;
+    QWidget* window = loaded(name);
+    if (!window) {
+        auto factory = factories_.find(name);
+        if (factory == factories_.end())
+            return nullptr;
+        window = factory->second(context_);
+        // A window unloads itself when it is closed.
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setObjectName(name);
+        instances_[name] = window;
+    }
+    window->setWindowState(window->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
+    window->show();
+    window->move(0, 0);
+    window->raise();
+    window->activateWindow();
+    return window;
+}
+
+void WindowHost::unload(const QString& name) {
+    if (QWidget* window = loaded(name))
+        window->close();
+}
+
+QStringList WindowHost::registeredNames() const {
+    QStringList names;
+    for (const auto& entry : factories_)
+        names << entry.first;
+    return names;
+}
+
+} // namespace brooklet

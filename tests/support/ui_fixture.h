@@ -1,0 +1,42 @@
+#pragma once
+// A window test: its own program folder, a scripted platform, a context with every window
+// known, and the main window loaded the way the program starts.
+#include <QApplication>
+#include <QString>
+
+#include <memory>
+
+#include "session/app_context.h"
+#include "session/main_window.h"
+#include "support/program_folder.h"
+#include "support/scripted_platform.h"
+
+class QAction;
+
+namespace brooklet::test {
+
+class UiTest : public ProgramFolderTest {
+protected:
+    UiTest();
+    ~UiTest() override;
+
+    // Loads frmMain in the program folder, as the program does at start.
+    frmMain& startMain();
+    // A control or menu item of a window, by its design name.
+    template <typename T> T* control(QWidget* window, const QString& name) const {
+        T* found = window->findChild<T*>(name);
+        EXPECT_NE(found, nullptr) << "no control " << name.toStdString();
+        return found;
+    }
+    // Triggers a menu item of the main window, as a click on it does.
+    void clickMenuItem(const QString& name);
+    Session& session() { return context->session; }
+    // The path of a work file.
+    const std::string& workFile(int number) { return context->session.WorkFilePath[number]; }
+
+    ScriptedPlatform platform;
+    std::unique_ptr<AppContext> context;
+    frmMain* main = nullptr;
+};
+
+} // namespace brooklet::test
