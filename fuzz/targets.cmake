@@ -1,0 +1,2 @@
+# Every fuzz target: brooklet_fuzz_target(name source...). Each source defines LLVMFuzzerTestOneInput.
+brooklet_fuzz_target(fuzz_input_file ${CMAKE_CURRENT_LIST_DIR}/fuzz_input_file.cpp)
