@@ -8,12 +8,13 @@ namespace {
 
 std::string field(const std::string& text, size_t width) {
     std::string padded = text;
-    if (padded.size() < width)
-        padded.append(width - padded.size(), ' ');
+    if (padded.size() < width) padded.append(width - padded.size(), ' ');
     return padded;
 }
 
-std::string id(const char* prefix, int number) { return prefix + std::to_string(number); }
+std::string id(const char* prefix, int number) {
+    return prefix + std::to_string(number);
+}
 
 } // namespace
 
@@ -31,7 +32,8 @@ std::string generatedInputFile(const WatershedSize& size) {
     line("Stream Reach:");
     for (int i = 1; i <= size.reaches; ++i)
         line("  " + field(id("R", i), 10) + field(i == size.reaches ? "OUTLET" : id("R", i + 1), 10) +
-             field(i % 10 == 0 ? id("S", i / 10 % size.structures + 1) : id("X", i % size.crossSections + 1), 10) +
+             field(i % 10 == 0 ? id("S", i / 10 % size.structures + 1) : id("X", i % size.crossSections + 1),
+                   10) +
              "1200.");
     line("");
     line("Alternate Analysis:");

@@ -14,7 +14,8 @@ namespace {
 const brooklet::Session& folder() {
     static brooklet::Session session = [] {
         brooklet::Session s;
-        const auto root = std::filesystem::temp_directory_path() / ("brooklet-fuzz-" + std::to_string(::getpid()));
+        const auto root =
+            std::filesystem::temp_directory_path() / ("brooklet-fuzz-" + std::to_string(::getpid()));
         std::filesystem::create_directories(root);
         brooklet::StartSession(s, root.string());
         return s;

@@ -17,8 +17,20 @@ void run(const std::string& bytes) {
 }
 
 std::string generated(std::mt19937& random, int round) {
-    const char* pieces[] = {"\r\n", "\n", "\r", " ", "Sub-Area:", "STREAM REACH:", "FLUME: BETA TEST",
-                            "Brooklet: Version 1.0", ",", "\"", "0.5", "-1e3", "\t", "LOCAL LAND USE:"};
+    const char* pieces[] = {"\r\n",
+                            "\n",
+                            "\r",
+                            " ",
+                            "Sub-Area:",
+                            "STREAM REACH:",
+                            "FLUME: BETA TEST",
+                            "Brooklet: Version 1.0",
+                            ",",
+                            "\"",
+                            "0.5",
+                            "-1e3",
+                            "\t",
+                            "LOCAL LAND USE:"};
     std::string bytes;
     switch (round % 4) {
     case 0: // binary noise
@@ -47,8 +59,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::error_code ec;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[i], ec)) {
-            if (!entry.is_regular_file())
-                continue;
+            if (!entry.is_regular_file()) continue;
             std::ifstream in(entry.path(), std::ios::binary);
             run(std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>()));
             ++inputs;

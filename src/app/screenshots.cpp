@@ -37,9 +37,11 @@ bool save(QWidget* window, const QString& folder, const QString& name) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    qputenv("QT_QPA_PLATFORM",
+            qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     QApplication app(argc, argv);
-    const QString target = QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString("screenshots")).absolutePath();
+    const QString target =
+        QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString("screenshots")).absolutePath();
     QDir().mkpath(target);
 
     QTemporaryDir programFolder;
@@ -57,7 +59,8 @@ int main(int argc, char* argv[]) {
 
     const QStringList examples = QDir(programFolder.path()).entryList({"*.inp"}, QDir::Files);
     if (!examples.isEmpty()) {
-        context.session.CurrentFile = brooklet::pathFromQt(QDir(programFolder.path()).filePath(examples.first()));
+        context.session.CurrentFile =
+            brooklet::pathFromQt(QDir(programFolder.path()).filePath(examples.first()));
         brooklet::LoadInputFile(context);
         // ReOpen Last Session shows the loaded file the way a user returns to it.
         main.fileCommand(3);
@@ -65,8 +68,7 @@ int main(int argc, char* argv[]) {
         ok = save(&main, target, "frmMain_loaded") && ok;
     }
     for (const QString& name : context.windows.registeredNames()) {
-        if (QWidget* window = context.windows.ShowWindowAtOrigin(name))
-            ok = save(window, target, name) && ok;
+        if (QWidget* window = context.windows.ShowWindowAtOrigin(name)) ok = save(window, target, name) && ok;
     }
     return ok ? 0 : 1;
 }

@@ -6,7 +6,9 @@ namespace brooklet {
 
 struct Rgb {
     uint8_t red, green, blue;
-    constexpr bool operator==(const Rgb& o) const { return red == o.red && green == o.green && blue == o.blue; }
+    constexpr bool operator==(const Rgb& o) const {
+        return red == o.red && green == o.green && blue == o.blue;
+    }
     constexpr bool operator!=(const Rgb& o) const { return !(*this == o); }
 };
 

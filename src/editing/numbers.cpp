@@ -9,9 +9,15 @@
 namespace brooklet {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isSign(char c) { return c == '+' || c == '-'; }
-bool isBlank(char c) { return c == ' '; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isSign(char c) {
+    return c == '+' || c == '-';
+}
+bool isBlank(char c) {
+    return c == ' ';
+}
 
 // Parses the trimmed text and, on success, gives the plain form that strtod reads:
 // sign, digits, point, exponent with E.
@@ -33,8 +39,7 @@ std::optional<std::string> plainNumber(const std::string& raw) {
             ++i;
     }
     std::string plain;
-    if (sign == '-')
-        plain += '-';
+    if (sign == '-') plain += '-';
     size_t digits = 0;
     // Whole part: digits, thousands separators only between digits.
     while (i < n) {
@@ -54,20 +59,17 @@ std::optional<std::string> plainNumber(const std::string& raw) {
             ++digits;
         }
     }
-    if (digits == 0)
-        return std::nullopt;
+    if (digits == 0) return std::nullopt;
     if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
         plain += 'E';
         ++i;
-        if (i < n && isSign(text[i]))
-            plain += text[i++];
+        if (i < n && isSign(text[i])) plain += text[i++];
         size_t exponentDigits = 0;
         while (i < n && isDigit(text[i])) {
             plain += text[i++];
             ++exponentDigits;
         }
-        if (exponentDigits == 0)
-            return std::nullopt;
+        if (exponentDigits == 0) return std::nullopt;
     }
     if (i < n && text[i] == '$' && !currency) {
         currency = true;
@@ -77,12 +79,10 @@ std::optional<std::string> plainNumber(const std::string& raw) {
         ++i;
     // A sign behind the number, when none stood before it.
     if (i < n && isSign(text[i]) && !sign) {
-        if (text[i] == '-')
-            plain.insert(plain.begin(), '-');
+        if (text[i] == '-') plain.insert(plain.begin(), '-');
         ++i;
     }
-    if (i != n)
-        return std::nullopt;
+    if (i != n) return std::nullopt;
     return plain;
 }
 
@@ -100,40 +100,35 @@ std::string trim(const std::string& text) {
 
 std::string toUpper(std::string text) {
     for (char& c : text)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
     return text;
 }
 
-bool isNumericText(const std::string& text) { return plainNumber(text).has_value(); }
+bool isNumericText(const std::string& text) {
+    return plainNumber(text).has_value();
+}
 
 std::optional<double> numericValue(const std::string& text) {
     const auto plain = plainNumber(text);
-    if (!plain)
-        return std::nullopt;
+    if (!plain) return std::nullopt;
     errno = 0;
     const double value = std::strtod(plain->c_str(), nullptr);
-    if (errno == ERANGE && std::isinf(value))
-        return std::nullopt;
-    if (!std::isfinite(value))
-        return std::nullopt;
+    if (errno == ERANGE && std::isinf(value)) return std::nullopt;
+    if (!std::isfinite(value)) return std::nullopt;
     return value;
 }
 
 std::optional<float> toSingle(const std::string& text) {
     const auto value = numericValue(text);
-    if (!value || std::fabs(*value) > FLT_MAX)
-        return std::nullopt;
+    if (!value || std::fabs(*value) > FLT_MAX) return std::nullopt;
     return static_cast<float>(*value);
 }
 
 double roundHalfEven(double value) {
     const double floor = std::floor(value);
     const double fraction = value - floor;
-    if (fraction > 0.5)
-        return floor + 1.0;
-    if (fraction < 0.5)
-        return floor;
+    if (fraction > 0.5) return floor + 1.0;
+    if (fraction < 0.5) return floor;
     return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
 }
 
@@ -144,8 +139,7 @@ double roundHalfEven(double value, int decimals) {
 
 std::optional<int16_t> toInteger16(const std::string& text) {
     const auto value = numericValue(text);
-    if (!value)
-        return std::nullopt;
+    if (!value) return std::nullopt;
     const double rounded = roundHalfEven(*value);
     if (rounded < std::numeric_limits<int16_t>::min() || rounded > std::numeric_limits<int16_t>::max())
         return std::nullopt;

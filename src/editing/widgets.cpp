@@ -5,10 +5,16 @@
 
 namespace brooklet {
 
-QString pathToQt(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
-std::string pathFromQt(const QString& path) { return QFile::encodeName(path).toStdString(); }
+QString pathToQt(const std::string& path) {
+    return QFile::decodeName(QByteArray::fromStdString(path));
+}
+std::string pathFromQt(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
 
-QString indexedName(const QString& name, int index) { return QString("%1(%2)").arg(name).arg(index); }
+QString indexedName(const QString& name, int index) {
+    return QString("%1(%2)").arg(name).arg(index);
+}
 
 void nameControl(QObject* control, const QString& name, const QString& accessibleName) {
     control->setObjectName(name);
@@ -16,7 +22,9 @@ void nameControl(QObject* control, const QString& name, const QString& accessibl
         widget->setAccessibleName(accessibleName.trimmed());
 }
 
-QColor toQColor(Rgb colour) { return QColor(colour.red, colour.green, colour.blue); }
+QColor toQColor(Rgb colour) {
+    return QColor(colour.red, colour.green, colour.blue);
+}
 Rgb fromQColor(const QColor& colour) {
     return Rgb{static_cast<uint8_t>(colour.red()), static_cast<uint8_t>(colour.green()),
                static_cast<uint8_t>(colour.blue())};
@@ -30,6 +38,8 @@ void setBackground(QWidget* control, Rgb colour) {
     control->setAutoFillBackground(true);
 }
 
-Rgb background(const QWidget* control) { return fromQColor(control->palette().color(QPalette::Base)); }
+Rgb background(const QWidget* control) {
+    return fromQColor(control->palette().color(QPalette::Base));
+}
 
 } // namespace brooklet

@@ -16,7 +16,9 @@ namespace brooklet {
 inline QString fromBytes(const std::string& bytes) {
     return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
-inline std::string toBytes(const QString& text) { return text.toLatin1().toStdString(); }
+inline std::string toBytes(const QString& text) {
+    return text.toLatin1().toStdString();
+}
 
 // Paths are in the file system's own encoding.
 QString pathToQt(const std::string& path);
@@ -50,11 +52,11 @@ private:
 };
 
 // Element Index of Target takes the background colour and the text of element Index of Source.
-template <typename T> void CopyControlState(const ControlArray<T>& Source, ControlArray<T>& Target, int Index) {
+template <typename T>
+void CopyControlState(const ControlArray<T>& Source, ControlArray<T>& Target, int Index) {
     T* source = Source(Index);
     T* target = Target(Index);
-    if (!source || !target)
-        return;
+    if (!source || !target) return;
     setBackground(target, background(source));
     target->setText(source->text());
 }

@@ -6,11 +6,9 @@
 namespace brooklet {
 
 void LoadInputFile(AppContext& context) {
-    if (context.session.CurrentFile.empty())
-        return;
+    if (context.session.CurrentFile.empty()) return;
     const LoadResult result = brooklet::LoadInputFile(context.session);
-    if (result.box)
-        context.platform.showBox(*result.box);
+    if (result.box) context.platform.showBox(*result.box);
     context.windows.ShowWindowAtOrigin(context.session.isUntitled() ? "frmMain" : "frmFlume");
 }
 

@@ -7,26 +7,33 @@
 namespace brooklet {
 
 const int SaveOrder[SectionCount] = {
-    IdentificationSection, SubAreaSection,           ReachSection,       AlternateSection,
-    StormSection,          CrossSectionSection,      StructureSection,   InputHydrographSection,
-    UnitHydrographSection, RainfallDistributionSection, LocalLandUseSection, DurationIncrementSection,
-    GlobalOutputSection,   TimeAnalysisSection,      VerificationSection,
+    IdentificationSection, SubAreaSection,
+    ReachSection,          AlternateSection,
+    StormSection,          CrossSectionSection,
+    StructureSection,      InputHydrographSection,
+    UnitHydrographSection, RainfallDistributionSection,
+    LocalLandUseSection,   DurationIncrementSection,
+    GlobalOutputSection,   TimeAnalysisSection,
+    VerificationSection,
 };
 
 namespace {
 
-bool isBlankLine(const std::string& line) { return trim(line).empty(); }
+bool isBlankLine(const std::string& line) {
+    return trim(line).empty();
+}
 
 // Only columns 1 to 40 name a section: the identification line carries run options from 41 on.
-std::string headerOf(const std::string& line) { return toUpper(trim(line.substr(0, 40))); }
+std::string headerOf(const std::string& line) {
+    return toUpper(trim(line.substr(0, 40)));
+}
 
 const char* const OldIdentificationHeaders[] = {"FLUME: BETA TEST", "FLUME: VERSION 2001"};
 
 // Replaces an old identification header by the current one, keeping columns 22 on in place.
 bool renewOldHeader(std::string& header, std::string& line) {
     for (const char* old : OldIdentificationHeaders) {
-        if (header != old)
-            continue;
+        if (header != old) continue;
         const std::string& current = sectionHeader(IdentificationSection);
         header = current;
         if (line.size() > current.size())
@@ -40,8 +47,7 @@ bool renewOldHeader(std::string& header, std::string& line) {
 
 int findSection(const Session& session, const std::string& header) {
     for (int i = 1; i <= SectionCount; ++i)
-        if (toUpper(session.SectionTable[i]) == header)
-            return i;
+        if (toUpper(session.SectionTable[i]) == header) return i;
     return 0;
 }
 
@@ -49,8 +55,7 @@ int findSection(const Session& session, const std::string& header) {
 
 LoadResult LoadInputFile(Session& session) {
     LoadResult result;
-    if (session.CurrentFile.empty())
-        return result;
+    if (session.CurrentFile.empty()) return result;
     ClearWorkFiles(session);
 
     auto bytes = readFileBytes(session.CurrentFile);
@@ -64,8 +69,7 @@ LoadResult LoadInputFile(Session& session) {
     LineReader input(std::move(*bytes));
     while (!input.atEnd()) {
         std::string line = input.readLine();
-        if (isBlankLine(line))
-            continue;
+        if (isBlankLine(line)) continue;
         std::string header = headerOf(line);
         renewOldHeader(header, line);
         const int section = findSection(session, toUpper(header));
@@ -76,12 +80,10 @@ LoadResult LoadInputFile(Session& session) {
         }
         bool complete = false;
         CopySectionToWorkFile(input, line, session.WorkFilePath[section], complete);
-        if (complete)
-            break;
+        if (complete) break;
     }
 
-    if (!session.isUntitled())
-        WriteFileNameWorkFile(session);
+    if (!session.isUntitled()) WriteFileNameWorkFile(session);
     return result;
 }
 
@@ -95,8 +97,7 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
             break;
         }
         Line = input.readLine();
-        if (isBlankLine(Line))
-            break;
+        if (isBlankLine(Line)) break;
     }
     // A second section with the same header replaces the first.
     writeLines(Path, lines);
@@ -104,8 +105,7 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
 
 void AppendReformattedSections(const Session& session) {
     auto bytes = readFileBytes(session.CurrentFile);
-    if (!bytes || bytes->empty())
-        return;
+    if (!bytes || bytes->empty()) return;
     LineReader input(std::move(*bytes));
     // The reformatter's first four lines are its own; the fifth is the section header line.
     std::string header;
@@ -115,8 +115,7 @@ void AppendReformattedSections(const Session& session) {
     const std::string& workFile = session.WorkFilePath[CrossSectionSection];
     const bool hasRecords = hasLineAfterFirst(workFile);
     std::vector<std::string> added;
-    if (!hasRecords)
-        added.push_back(header);
+    if (!hasRecords) added.push_back(header);
     while (!input.atEnd())
         added.push_back(input.readLine());
     const std::string before = readFileBytes(workFile).value_or(std::string());
@@ -127,13 +126,11 @@ SaveResult SaveInputFile(Session& session) {
     std::string joined;
     for (int section : SaveOrder) {
         auto bytes = readFileBytes(session.WorkFilePath[section]);
-        if (!bytes)
-            continue; // a missing work file leaves the section out, blank line and all
+        if (!bytes) continue; // a missing work file leaves the section out, blank line and all
         LineReader reader(std::move(*bytes));
         while (!reader.atEnd()) {
             std::string line = reader.readLine();
-            if (!isBlankLine(line))
-                joined += line + "\r\n";
+            if (!isBlankLine(line)) joined += line + "\r\n";
         }
         joined += "\r\n";
     }

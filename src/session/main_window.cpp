@@ -25,9 +25,10 @@ const char* const Disclaimer =
     "shall the fact of distribution constitute any such warranty, and NO responsibility is assumed by the "
     "developers in connection therewith.";
 
-const char* const EditorWindows[] = {"",           "frmAlternate", "frmDimHyd",  "frmDurInc",      "frmGlobal",
-                                     "frmInpHyd",  "frmRainDist",  "frmXsect",   "frmReaches",     "frmStorm",
-                                     "frmStruct",  "frmSubArea",   "frmTimeA",   "frmFlume",       "frmVerification"};
+const char* const EditorWindows[] = {"",           "frmAlternate", "frmDimHyd",      "frmDurInc",
+                                     "frmGlobal",  "frmInpHyd",    "frmRainDist",    "frmXsect",
+                                     "frmReaches", "frmStorm",     "frmStruct",      "frmSubArea",
+                                     "frmTimeA",   "frmFlume",     "frmVerification"};
 
 // Builds the items of a menu array; indexes without a caption are separators.
 void addMenuItems(QMenu* menu, const QString& arrayName, int first, int last,
@@ -53,17 +54,17 @@ QString editorWindowName(int section) {
 
 void UpdateViewMenu(AppContext& context, QWidget* window) {
     const Session& session = context.session;
-    auto item = [window](int index) { return window->findChild<QAction*>(indexedName("mnuViewItem", index)); };
+    auto item = [window](int index) {
+        return window->findChild<QAction*>(indexedName("mnuViewItem", index));
+    };
     for (int index : {0, 1, 4, 5, 6, 7, 8})
-        if (QAction* action = item(index))
-            action->setEnabled(false);
+        if (QAction* action = item(index)) action->setEnabled(false);
     bool anyFile = false;
     if (hasLineAfterFirst(session.WorkFilePath[ReachSection])) {
         item(0)->setEnabled(true);
         anyFile = true;
     }
-    if (session.DataChanged)
-        return;
+    if (session.DataChanged) return;
     // The untitled marker is "> Untitled <", so this holds for every session.
     if (session.CurrentFile != "<untitled>") {
         item(1)->setEnabled(true);
@@ -78,8 +79,7 @@ void UpdateViewMenu(AppContext& context, QWidget* window) {
         }
         ++index;
     }
-    if (auto* menu = window->findChild<QMenu*>("mnuView"))
-        menu->menuAction()->setVisible(anyFile);
+    if (auto* menu = window->findChild<QMenu*>("mnuView")) menu->menuAction()->setVisible(anyFile);
 }
 
 frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
@@ -196,7 +196,8 @@ void frmMain::buildMenus() {
                   {7, "Hydrograph File"},
                   {8, "FloodEcon File"}},
                  viewItems_);
-    connect(viewItems_(0), &QAction::triggered, this, [this] { context_.windows.ShowWindowAtOrigin("frmTopoModel"); });
+    connect(viewItems_(0), &QAction::triggered, this,
+            [this] { context_.windows.ShowWindowAtOrigin("frmTopoModel"); });
     for (int index : {1, 4, 5, 6, 7, 8})
         connect(viewItems_(index), &QAction::triggered, this, [this, index] {
             context_.session.ViewIndex = static_cast<short>(index);
@@ -208,7 +209,8 @@ void frmMain::buildMenus() {
     mnuRun->setObjectName("mnuRun");
     mnuPlots = bar->addAction("Plots");
     mnuPlots->setObjectName("mnuPlots");
-    connect(mnuPlots, &QAction::triggered, this, [this] { context_.windows.ShowWindowAtOrigin("frmGraphicsOutput"); });
+    connect(mnuPlots, &QAction::triggered, this,
+            [this] { context_.windows.ShowWindowAtOrigin("frmGraphicsOutput"); });
     spacer("mnuspace5");
 
     mnuHelp = bar->addMenu("Help");
@@ -228,8 +230,7 @@ void frmMain::buildMenus() {
 }
 
 bool frmMain::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate)
-        Form_Activate();
+    if (event->type() == QEvent::WindowActivate) Form_Activate();
     return QMainWindow::event(event);
 }
 
@@ -237,7 +238,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     // Enter or Space on a list entry opens its section, so the list works without a mouse.
     if (watched == CurrentLst && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) && CurrentLst->currentRow() >= 0) {
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) &&
+            CurrentLst->currentRow() >= 0) {
             openSection(CurrentLst->currentRow() + 1);
             return true;
         }
@@ -256,8 +258,7 @@ void frmMain::Form_Activate() {
     if (!session.DataChanged && !session.CurrentFile.empty() && !session.isUntitled()) {
         mnuRun->setVisible(true);
         UpdateViewMenu(context_, this);
-        if (fileExists(session.OutputPath))
-            mnuPlots->setVisible(true);
+        if (fileExists(session.OutputPath)) mnuPlots->setVisible(true);
     } else {
         mnuRun->setVisible(false);
         mnuView->menuAction()->setVisible(false);
@@ -277,8 +278,7 @@ void frmMain::RefreshSectionList() {
 }
 
 void frmMain::openSection(int section) {
-    if (section < 1 || section > 14)
-        return;
+    if (section < 1 || section > 14) return;
     pickedSection_ = section;
     context_.CurrentAlternate = 0;
     context_.windows.ShowWindowAtOrigin(editorWindowName(section));
@@ -286,9 +286,15 @@ void frmMain::openSection(int section) {
 
 void frmMain::fileCommand(int index) {
     switch (index) {
-    case 1: newFile(); break;
-    case 2: openExistingFile(); break;
-    case 3: reopenLastSession(); break;
+    case 1:
+        newFile();
+        break;
+    case 2:
+        openExistingFile();
+        break;
+    case 3:
+        reopenLastSession();
+        break;
     case 10:
         beginFileCommand();
         context_.windows.ShowWindowAtOrigin("frmLocalLanduse");
@@ -299,10 +305,17 @@ void frmMain::fileCommand(int index) {
         context_.windows.ShowWindowAtOrigin("frmLocalSoil");
         endFileCommand();
         break;
-    case 14: saveFile(); break;
-    case 15: saveFileAs(); break;
-    case 18: exitProgram(); break;
-    default: break;
+    case 14:
+        saveFile();
+        break;
+    case 15:
+        saveFileAs();
+        break;
+    case 18:
+        exitProgram();
+        break;
+    default:
+        break;
     }
 }
 
@@ -313,8 +326,7 @@ void frmMain::beginFileCommand() {
 }
 
 void frmMain::endFileCommand() {
-    if (!context_.session.CurrentFile.empty())
-        setCaptionToCurrentFile();
+    if (!context_.session.CurrentFile.empty()) setCaptionToCurrentFile();
     Frame2->show();
 }
 
@@ -342,8 +354,7 @@ void frmMain::openExistingFile() {
         dialog_.CancelError = true;
         dialog_.InitDir = session.LastFolder;
         const auto chosen = context_.platform.showOpenDialog(dialog_);
-        if (!chosen)
-            return;
+        if (!chosen) return;
         dialog_.FileName = *chosen;
         session.LastFolder = DirectoryPart(*chosen);
         session.CurrentFile = *chosen;
@@ -362,10 +373,8 @@ void frmMain::openExistingFile() {
 void frmMain::reopenLastSession() {
     beginFileCommand();
     Session& session = context_.session;
-    if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile]))
-        session.CurrentFile = *line;
-    if (session.CurrentFile.empty())
-        session.CurrentFile = UntitledFile;
+    if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile])) session.CurrentFile = *line;
+    if (session.CurrentFile.empty()) session.CurrentFile = UntitledFile;
     if (!session.isUntitled()) {
         fileItem(14)->setEnabled(true);
         session.OutputPath = BaseName(session.CurrentFile) + "out";
@@ -379,8 +388,7 @@ void frmMain::reopenLastSession() {
 void frmMain::saveFile() {
     beginFileCommand();
     // A save that failed leaves the data unsaved, and the model may not run on it.
-    if (SaveInputFile(context_))
-        mnuRun->setVisible(true);
+    if (SaveInputFile(context_)) mnuRun->setVisible(true);
     UpdateViewMenu(context_, this);
     endFileCommand();
 }
@@ -389,8 +397,7 @@ void frmMain::saveFileAs() {
     beginFileCommand();
     dialog_.DialogTitle = "Save Brooklet file";
     SaveInputFileAs();
-    if (!context_.session.DataChanged)
-        mnuRun->setVisible(true);
+    if (!context_.session.DataChanged) mnuRun->setVisible(true);
     UpdateViewMenu(context_, this);
     endFileCommand();
 }
@@ -409,14 +416,13 @@ void frmMain::SaveInputFileAs() {
     dialog_.CancelError = true;
     dialog_.InitDir = session.LastFolder;
     const auto chosen = context_.platform.showSaveDialog(dialog_);
-    if (!chosen)
-        return;
+    if (!chosen) return;
     dialog_.FileName = *chosen;
     session.LastFolder = DirectoryPart(*chosen);
     setCurrentFolder(session.ProgramFolder);
 
-    const BoxAnswer answer = context_.platform.showBox(
-        {"Save: " + *chosen, SystemBoxTitle, BoxButtons::YesNo, BoxIcon::Question});
+    const BoxAnswer answer =
+        context_.platform.showBox({"Save: " + *chosen, SystemBoxTitle, BoxButtons::YesNo, BoxIcon::Question});
     if (answer != BoxAnswer::No) {
         const std::string oldName = session.CurrentFile;
         session.CurrentFile = *chosen;
@@ -451,8 +457,7 @@ void frmMain::exitProgram() {
                 if (!chosen->empty()) {
                     session.CurrentFile = *chosen;
                     // A file that could not be written keeps the program open, so nothing is lost.
-                    if (!SaveInputFile(context_))
-                        return;
+                    if (!SaveInputFile(context_)) return;
                 }
             }
         }
@@ -466,14 +471,14 @@ void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Promp
     Cancelled = false;
     session.RunResultLabel = " ";
     if (session.DataChanged && !session.isUntitled()) {
-        const BoxAnswer answer = context_.platform.showBox({"Save and Close current file before loading\r" + Prompt,
-                                                            DefaultBoxTitle, BoxButtons::YesNoCancel, BoxIcon::None});
+        const BoxAnswer answer =
+            context_.platform.showBox({"Save and Close current file before loading\r" + Prompt,
+                                       DefaultBoxTitle, BoxButtons::YesNoCancel, BoxIcon::None});
         if (answer == BoxAnswer::Cancel) {
             Cancelled = true;
             return;
         }
-        if (answer == BoxAnswer::No)
-            return;
+        if (answer == BoxAnswer::No) return;
         SaveInputFile(context_);
     }
     CloseInputFile();

@@ -28,33 +28,55 @@ BoxAnswer QtPlatform::showBox(const BoxRequest& box) {
     message.setWindowTitle(pathToQt(box.title));
     message.setText(pathToQt(box.text));
     switch (box.icon) {
-    case BoxIcon::None: message.setIcon(QMessageBox::NoIcon); break;
-    case BoxIcon::Information: message.setIcon(QMessageBox::Information); break;
-    case BoxIcon::Exclamation: message.setIcon(QMessageBox::Warning); break;
-    case BoxIcon::Question: message.setIcon(QMessageBox::Question); break;
-    case BoxIcon::Critical: message.setIcon(QMessageBox::Critical); break;
+    case BoxIcon::None:
+        message.setIcon(QMessageBox::NoIcon);
+        break;
+    case BoxIcon::Information:
+        message.setIcon(QMessageBox::Information);
+        break;
+    case BoxIcon::Exclamation:
+        message.setIcon(QMessageBox::Warning);
+        break;
+    case BoxIcon::Question:
+        message.setIcon(QMessageBox::Question);
+        break;
+    case BoxIcon::Critical:
+        message.setIcon(QMessageBox::Critical);
+        break;
     }
     switch (box.buttons) {
-    case BoxButtons::Ok: message.setStandardButtons(QMessageBox::Ok); break;
-    case BoxButtons::OkCancel: message.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
-    case BoxButtons::YesNo: message.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
+    case BoxButtons::Ok:
+        message.setStandardButtons(QMessageBox::Ok);
+        break;
+    case BoxButtons::OkCancel:
+        message.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        break;
+    case BoxButtons::YesNo:
+        message.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        break;
     case BoxButtons::YesNoCancel:
         message.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
     }
     switch (message.exec()) {
-    case QMessageBox::Yes: return BoxAnswer::Yes;
-    case QMessageBox::No: return BoxAnswer::No;
-    case QMessageBox::Cancel: return BoxAnswer::Cancel;
-    case QMessageBox::Ok: return BoxAnswer::Ok;
-    default: return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Cancel;
+    case QMessageBox::Yes:
+        return BoxAnswer::Yes;
+    case QMessageBox::No:
+        return BoxAnswer::No;
+    case QMessageBox::Cancel:
+        return BoxAnswer::Cancel;
+    case QMessageBox::Ok:
+        return BoxAnswer::Ok;
+    default:
+        return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Cancel;
     }
 }
 
 namespace {
 
 std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QFileDialog::AcceptMode mode) {
-    QFileDialog dialog(QApplication::activeWindow(), pathToQt(settings.DialogTitle), pathToQt(settings.InitDir));
+    QFileDialog dialog(QApplication::activeWindow(), pathToQt(settings.DialogTitle),
+                       pathToQt(settings.InitDir));
     dialog.setAcceptMode(mode);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // the program asks its own question
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -65,10 +87,8 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
         dialog.selectNameFilter(filters[index - 1]);
     }
     const QString name = pathToQt(settings.FileName);
-    if (!name.isEmpty() && !name.contains('*'))
-        dialog.selectFile(name);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
+    if (!name.isEmpty() && !name.contains('*')) dialog.selectFile(name);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return pathFromQt(dialog.selectedFiles().first());
 }
 

@@ -45,13 +45,17 @@ const std::array<std::string, WorkFileCount + 1> WorkFileNames = {
     "~filename.tmp",
 };
 
-const std::array<std::string, ResultExtensionCount + 1> Extensions = {"", "inp", "", "", "out",
+const std::array<std::string, ResultExtensionCount + 1> Extensions = {"",    "inp", "",    "",   "out",
                                                                       "err", "dbg", "hyd", "ecn"};
 
 } // namespace
 
-const std::string& sectionHeader(int section) { return Headers.at(static_cast<size_t>(section)); }
-const std::string& workFileName(int number) { return WorkFileNames.at(static_cast<size_t>(number)); }
+const std::string& sectionHeader(int section) {
+    return Headers.at(static_cast<size_t>(section));
+}
+const std::string& workFileName(int number) {
+    return WorkFileNames.at(static_cast<size_t>(number));
+}
 
 void StartSession(Session& session, const std::string& startFolder) {
     session.EditorTitle = "Brooklet Editor 2001";
@@ -68,8 +72,7 @@ void StartSession(Session& session, const std::string& startFolder) {
     session.LocalSoilFile = session.ProgramFolder + "Local_Soil_HSG.txt";
     session.HelpListFile = session.ProgramFolder + "BrookletHelp.lst";
 
-    if (!folderExists(session.WorkFolder))
-        createFolder(session.WorkFolder);
+    if (!folderExists(session.WorkFolder)) createFolder(session.WorkFolder);
 
     for (int i = 1; i <= WorkFileCount; ++i)
         session.WorkFilePath[i] = session.WorkFolder + WorkFileNames[i];
@@ -79,20 +82,20 @@ void StartSession(Session& session, const std::string& startFolder) {
         session.ResultExtension[i] = Extensions[i];
 }
 
-void ClearWorkFiles(const Session& session) { deleteFilesWithExtension(session.WorkFolder, ".tmp"); }
+void ClearWorkFiles(const Session& session) {
+    deleteFilesWithExtension(session.WorkFolder, ".tmp");
+}
 
 std::string BaseName(const std::string& Path) {
     const auto point = Path.rfind('.');
-    if (point == std::string::npos)
-        return Path + ".";
+    if (point == std::string::npos) return Path + ".";
     return Path.substr(0, point + 1);
 }
 
 std::string DirectoryPart(const std::string& Path) {
     const std::string trimmed = trim(Path);
     const auto separator = trimmed.rfind(folderSeparator());
-    if (separator == std::string::npos)
-        return Path;
+    if (separator == std::string::npos) return Path;
     return trimmed.substr(0, separator + 1);
 }
 

@@ -57,8 +57,8 @@ struct Session {
     bool EnglishUnits = true;
     std::string EditorTitle = "Brooklet Editor 2001";
 
-    std::array<std::string, SectionCount + 1> SectionTable;           // 1..15
-    std::array<std::string, WorkFileCount + 1> WorkFilePath;          // 1..16
+    std::array<std::string, SectionCount + 1> SectionTable;            // 1..15
+    std::array<std::string, WorkFileCount + 1> WorkFilePath;           // 1..16
     std::array<std::string, ResultExtensionCount + 1> ResultExtension; // 1..8
 
     std::string LocalLandUseFile;

@@ -2,9 +2,13 @@
 
 namespace brooklet {
 
-void WindowHost::registerWindow(const QString& name, Factory factory) { factories_[name] = std::move(factory); }
+void WindowHost::registerWindow(const QString& name, Factory factory) {
+    factories_[name] = std::move(factory);
+}
 
-void WindowHost::adopt(const QString& name, QWidget* window) { instances_[name] = window; }
+void WindowHost::adopt(const QString& name, QWidget* window) {
+    instances_[name] = window;
+}
 
 QWidget* WindowHost::loaded(const QString& name) const {
     auto it = instances_.find(name);
@@ -16,8 +20,7 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
     QWidget* window = loaded(name);
     if (!window) {
         auto factory = factories_.find(name);
-        if (factory == factories_.end())
-            return nullptr;
+        if (factory == factories_.end()) return nullptr;
         window = factory->second(context_);
         // A window unloads itself when it is closed.
         window->setAttribute(Qt::WA_DeleteOnClose);
@@ -33,8 +36,7 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
 }
 
 void WindowHost::unload(const QString& name) {
-    if (QWidget* window = loaded(name))
-        window->close();
+    if (QWidget* window = loaded(name)) window->close();
 }
 
 QStringList WindowHost::registeredNames() const {

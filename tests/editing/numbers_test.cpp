@@ -6,14 +6,15 @@ namespace brooklet {
 namespace {
 
 TEST(NumericText, AcceptsWhatAGeneralNumberParserAccepts) {
-    for (const char* text : {"1", "-1", "+1", "1-", "1+", " 12 ", "1.", ".5", "1.5", "1e3", "1E-3", "1d3", "2.5D+2",
-                             "1,000", "12,345.5", "$5", "-$5", "$-5", "5$", "  - 4", "0"})
+    for (const char* text :
+         {"1",   "-1",     "+1",    "1-",       "1+", " 12 ", "1.",  ".5", "1.5",   "1e3", "1E-3",
+          "1d3", "2.5D+2", "1,000", "12,345.5", "$5", "-$5",  "$-5", "5$", "  - 4", "0"})
         EXPECT_TRUE(isNumericText(text)) << text;
 }
 
 TEST(NumericText, RefusesOtherLettersAndMalformedTexts) {
-    for (const char* text : {"", " ", "12a", "a12", ".", "-", "1.2.3", "1e", "1e+", "--1", "-1-", ",1", "1,",
-                             "1 000", "e5", "$", "1$$", "0x10", "1..", "1,.5"})
+    for (const char* text : {"",    " ",  "12a", "a12",   ".",  "-", "1.2.3", "1e",   "1e+", "--1",
+                             "-1-", ",1", "1,",  "1 000", "e5", "$", "1$$",   "0x10", "1..", "1,.5"})
         EXPECT_FALSE(isNumericText(text)) << text;
 }
 

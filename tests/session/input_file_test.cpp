@@ -22,8 +22,7 @@ protected:
     std::vector<int> existing() const {
         std::vector<int> numbers;
         for (int i = 1; i <= 16; ++i)
-            if (exists(i))
-                numbers.push_back(i);
+            if (exists(i)) numbers.push_back(i);
         return numbers;
     }
 
@@ -31,8 +30,8 @@ protected:
 };
 
 TEST_F(InputFileTest, CutsAFileIntoOneWorkFilePerSection) {
-    const auto result = load(crlf({"Brooklet: Version 1.0", "RUN ONE", "", "Sub-Area:", "  A1  R1", "  A2  R1", "",
-                                   "Stream Reach:", "  R1  OUTLET", ""}));
+    const auto result = load(crlf({"Brooklet: Version 1.0", "RUN ONE", "", "Sub-Area:", "  A1  R1",
+                                   "  A2  R1", "", "Stream Reach:", "  R1  OUTLET", ""}));
     EXPECT_FALSE(result.box.has_value());
     EXPECT_EQ(work(13), crlf({"Brooklet: Version 1.0", "RUN ONE"}));
     EXPECT_EQ(work(11), crlf({"Sub-Area:", "  A1  R1", "  A2  R1"}));
@@ -111,7 +110,8 @@ TEST_F(InputFileTest, AFirstLineOfProseStopsTheLoadAtOnce) {
 }
 
 TEST_F(InputFileTest, AnUnknownHeaderKeepsTheSectionsReadBeforeIt) {
-    const auto result = load(crlf({"Sub-Area:", "  A1", "", "Nonsense:", "  x", "", "Stream Reach:", "  R1"}));
+    const auto result =
+        load(crlf({"Sub-Area:", "  A1", "", "Nonsense:", "  x", "", "Stream Reach:", "  R1"}));
     ASSERT_TRUE(result.box.has_value());
     EXPECT_EQ(result.box->text, "Section Header: NONSENSE: not found! ");
     EXPECT_EQ(existing(), (std::vector<int>{11, 16}));
@@ -128,8 +128,8 @@ TEST_F(InputFileTest, AMissingFileMakesTheSessionUntitled) {
     session.CurrentFile = folder.file("gone.inp");
     const auto result = LoadInputFile(session);
     ASSERT_TRUE(result.box.has_value());
-    EXPECT_EQ(*result.box, (BoxRequest{"Error --- File " + folder.file("gone.inp") + " Not Found", "BrookletSystem",
-                                       BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(*result.box, (BoxRequest{"Error --- File " + folder.file("gone.inp") + " Not Found",
+                                       "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
     EXPECT_EQ(session.CurrentFile, "> Untitled <");
     EXPECT_TRUE(existing().empty()); // the folder was cleared first
 }
@@ -236,9 +236,10 @@ TEST_F(SaveTest, AFileThatCannotBeWrittenLeavesEverythingAsItWas) {
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.box.title, "Brooklet System");
     EXPECT_EQ(result.box.icon, BoxIcon::Exclamation);
-    EXPECT_EQ(result.box.text, "The file " + target +
-                                   " could not be saved (it cannot be created). The file and the data of this "
-                                   "session are as they were.");
+    EXPECT_EQ(result.box.text,
+              "The file " + target +
+                  " could not be saved (it cannot be created). The file and the data of this "
+                  "session are as they were.");
     EXPECT_TRUE(session.DataChanged);
     EXPECT_EQ(bytesOf(session.WorkFilePath[16]), crlf({"/earlier.inp"}));
     EXPECT_EQ(bytesOf(session.WorkFilePath[11]), crlf({"Sub-Area:", "  A1"}));

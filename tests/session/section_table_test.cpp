@@ -40,15 +40,25 @@ TEST_F(SectionTableTest, StartSetsTheSessionVariables) {
 TEST_F(SectionTableTest, TablesHoldTheSectionsWorkFilesAndExtensions) {
     Session session;
     StartSession(session, currentFolder());
-    const char* headers[] = {"Alternate Analysis:", "Dimensionless Unit Hydrograph:", "Duration Increment:",
-                             "Global Output:",      "Input Hydrograph:",             "Rainfall Distribution:",
-                             "Stream Cross Section:", "Stream Reach:",               "Storm Analysis:",
-                             "Structure Rating:",   "Sub-Area:",                     "Time Analysis:",
-                             "Brooklet: Version 1.0", "Verification:",               "Local Land Use:"};
-    const char* files[] = {"~Alter.tmp",   "~Unit_Hyd.tmp", "~DurInc.tmp",  "~Global.tmp",   "~InpHyd.tmp",
-                           "~RainDist.tmp", "~Xsect.tmp",   "~Reach.tmp",   "~Storm.tmp",    "~Struct.tmp",
-                           "~SubArea.tmp", "~TimeA.tmp",    "~Flumeid.tmp", "~Verif.tmp",    "~CurveNum.tmp",
-                           "~filename.tmp"};
+    const char* headers[] = {"Alternate Analysis:",
+                             "Dimensionless Unit Hydrograph:",
+                             "Duration Increment:",
+                             "Global Output:",
+                             "Input Hydrograph:",
+                             "Rainfall Distribution:",
+                             "Stream Cross Section:",
+                             "Stream Reach:",
+                             "Storm Analysis:",
+                             "Structure Rating:",
+                             "Sub-Area:",
+                             "Time Analysis:",
+                             "Brooklet: Version 1.0",
+                             "Verification:",
+                             "Local Land Use:"};
+    const char* files[] = {"~Alter.tmp",   "~Unit_Hyd.tmp", "~DurInc.tmp",   "~Global.tmp",
+                           "~InpHyd.tmp",  "~RainDist.tmp", "~Xsect.tmp",    "~Reach.tmp",
+                           "~Storm.tmp",   "~Struct.tmp",   "~SubArea.tmp",  "~TimeA.tmp",
+                           "~Flumeid.tmp", "~Verif.tmp",    "~CurveNum.tmp", "~filename.tmp"};
     for (int i = 1; i <= 15; ++i)
         EXPECT_EQ(session.SectionTable[i], headers[i - 1]) << i;
     for (int i = 1; i <= 16; ++i)

@@ -13,13 +13,11 @@ namespace brooklet::test {
 
 ProgramFolder::ProgramFolder() {
     std::string pattern = (fs::temp_directory_path() / "brooklet-XXXXXX").string();
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("cannot make a temporary program folder");
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary program folder");
     path_ = pattern;
     previous_ = fs::current_path().string();
     for (const auto& entry : fs::directory_iterator(BROOKLET_DATA_DIR))
-        if (entry.is_regular_file())
-            fs::copy_file(entry.path(), fs::path(path_) / entry.path().filename());
+        if (entry.is_regular_file()) fs::copy_file(entry.path(), fs::path(path_) / entry.path().filename());
     fs::current_path(path_);
 }
 
@@ -30,7 +28,9 @@ ProgramFolder::~ProgramFolder() {
     fs::remove_all(path_, ec);
 }
 
-std::string ProgramFolder::file(const std::string& name) const { return (fs::path(path_) / name).string(); }
+std::string ProgramFolder::file(const std::string& name) const {
+    return (fs::path(path_) / name).string();
+}
 
 std::string ProgramFolder::copyTestData(const std::string& name, const std::string& as) const {
     const std::string target = file(as.empty() ? name : as);
@@ -55,6 +55,8 @@ std::string crlf(const std::vector<std::string>& lines) {
     return bytes;
 }
 
-std::string testDataPath(const std::string& name) { return (fs::path(BROOKLET_TEST_DATA_DIR) / name).string(); }
+std::string testDataPath(const std::string& name) {
+    return (fs::path(BROOKLET_TEST_DATA_DIR) / name).string();
+}
 
 } // namespace brooklet::test

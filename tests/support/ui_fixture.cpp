@@ -6,13 +6,14 @@
 
 namespace brooklet::test {
 
-UiTest::UiTest() : context(std::make_unique<AppContext>(platform)) { registerAllWindows(context->windows); }
+UiTest::UiTest() : context(std::make_unique<AppContext>(platform)) {
+    registerAllWindows(context->windows);
+}
 
 UiTest::~UiTest() {
     // Close every window before the context they refer to goes.
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window != main && !window->parentWidget())
-            delete window;
+        if (window != main && !window->parentWidget()) delete window;
     delete main;
 }
 
