@@ -275,6 +275,8 @@ void frmMain::RefreshSectionList() {
         const std::string prefix = fileLength(session.WorkFilePath[i]) > 0 ? "X   " : "     ";
         CurrentLst->addItem(fromBytes(prefix + session.SectionTable[i]));
     }
+    // All fourteen sections in sight at once.
+    CurrentLst->setMinimumHeight(CurrentLst->sizeHintForRow(0) * 14 + 2 * CurrentLst->frameWidth() + 4);
 }
 
 void frmMain::openSection(int section) {

@@ -16,7 +16,8 @@ ProgramFolder::ProgramFolder() {
     if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary program folder");
     path_ = pattern;
     previous_ = fs::current_path().string();
-    for (const auto& entry : fs::directory_iterator(BROOKLET_DATA_DIR))
+    std::error_code ec;
+    for (const auto& entry : fs::directory_iterator(BROOKLET_DATA_DIR, ec))
         if (entry.is_regular_file()) fs::copy_file(entry.path(), fs::path(path_) / entry.path().filename());
     fs::current_path(path_);
 }
