@@ -25,6 +25,10 @@ public:
     }
     std::optional<std::string> showOpenDialog(const brooklet::FileDialogSettings&) override { return {}; }
     std::optional<std::string> showSaveDialog(const brooklet::FileDialogSettings&) override { return {}; }
+    std::optional<brooklet::PrinterChoice>
+    showPrinterDialog(const brooklet::PrinterDialogSettings&) override {
+        return {};
+    }
 };
 
 bool save(QWidget* window, const QString& folder, const QString& name) {
@@ -68,7 +72,8 @@ int main(int argc, char* argv[]) {
         ok = save(&main, target, "frmMain_loaded") && ok;
     }
     for (const QString& name : context.windows.registeredNames()) {
-        if (QWidget* window = context.windows.ShowWindowAtOrigin(name)) ok = save(window, target, name) && ok;
+        if (QWidget* window = context.windows.ShowWindowAtOrigin(name))
+            ok = save(window, target, name) && ok;
     }
     return ok ? 0 : 1;
 }

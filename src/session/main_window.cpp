@@ -1,5 +1,7 @@
 #include "session/main_window.h"
 
+#include "run/file_viewer.h"
+#include "run/run_commands.h"
 #include "session/app_context.h"
 #include "session/file_commands.h"
 #include "session/input_file.h"
@@ -58,13 +60,15 @@ void UpdateViewMenu(AppContext& context, QWidget* window) {
         return window->findChild<QAction*>(indexedName("mnuViewItem", index));
     };
     for (int index : {0, 1, 4, 5, 6, 7, 8})
-        if (QAction* action = item(index)) action->setEnabled(false);
+        if (QAction* action = item(index))
+            action->setEnabled(false);
     bool anyFile = false;
     if (hasLineAfterFirst(session.WorkFilePath[ReachSection])) {
         item(0)->setEnabled(true);
         anyFile = true;
     }
-    if (session.DataChanged) return;
+    if (session.DataChanged)
+        return;
     // The untitled marker is "> Untitled <", so this holds for every session.
     if (session.CurrentFile != "<untitled>") {
         item(1)->setEnabled(true);
@@ -79,7 +83,8 @@ void UpdateViewMenu(AppContext& context, QWidget* window) {
         }
         ++index;
     }
-    if (auto* menu = window->findChild<QMenu*>("mnuView")) menu->menuAction()->setVisible(anyFile);
+    if (auto* menu = window->findChild<QMenu*>("mnuView"))
+        menu->menuAction()->setVisible(anyFile);
 }
 
 frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
@@ -201,12 +206,13 @@ void frmMain::buildMenus() {
     for (int index : {1, 4, 5, 6, 7, 8})
         connect(viewItems_(index), &QAction::triggered, this, [this, index] {
             context_.session.ViewIndex = static_cast<short>(index);
-            context_.windows.ShowWindowAtOrigin("frmFileDisp");
+            ShowFileViewer(context_);
         });
 
     spacer("mnuspace4");
     mnuRun = bar->addAction("Run");
     mnuRun->setObjectName("mnuRun");
+    connect(mnuRun, &QAction::triggered, this, [this] { RunModel(context_); });
     mnuPlots = bar->addAction("Plots");
     mnuPlots->setObjectName("mnuPlots");
     connect(mnuPlots, &QAction::triggered, this,
@@ -230,7 +236,8 @@ void frmMain::buildMenus() {
 }
 
 bool frmMain::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) Form_Activate();
+    if (event->type() == QEvent::WindowActivate)
+        Form_Activate();
     return QMainWindow::event(event);
 }
 
@@ -258,7 +265,8 @@ void frmMain::Form_Activate() {
     if (!session.DataChanged && !session.CurrentFile.empty() && !session.isUntitled()) {
         mnuRun->setVisible(true);
         UpdateViewMenu(context_, this);
-        if (fileExists(session.OutputPath)) mnuPlots->setVisible(true);
+        if (fileExists(session.OutputPath))
+            mnuPlots->setVisible(true);
     } else {
         mnuRun->setVisible(false);
         mnuView->menuAction()->setVisible(false);
@@ -280,7 +288,8 @@ void frmMain::RefreshSectionList() {
 }
 
 void frmMain::openSection(int section) {
-    if (section < 1 || section > 14) return;
+    if (section < 1 || section > 14)
+        return;
     pickedSection_ = section;
     context_.CurrentAlternate = 0;
     context_.windows.ShowWindowAtOrigin(editorWindowName(section));
@@ -296,6 +305,16 @@ void frmMain::fileCommand(int index) {
         break;
     case 3:
         reopenLastSession();
+        break;
+    case 6:
+        beginFileCommand();
+        ConvertOldData(context_, *this);
+        endFileCommand();
+        break;
+    case 7:
+        beginFileCommand();
+        ImportHecRas(context_, *this);
+        endFileCommand();
         break;
     case 10:
         beginFileCommand();
@@ -328,7 +347,8 @@ void frmMain::beginFileCommand() {
 }
 
 void frmMain::endFileCommand() {
-    if (!context_.session.CurrentFile.empty()) setCaptionToCurrentFile();
+    if (!context_.session.CurrentFile.empty())
+        setCaptionToCurrentFile();
     Frame2->show();
 }
 
@@ -356,7 +376,8 @@ void frmMain::openExistingFile() {
         dialog_.CancelError = true;
         dialog_.InitDir = session.LastFolder;
         const auto chosen = context_.platform.showOpenDialog(dialog_);
-        if (!chosen) return;
+        if (!chosen)
+            return;
         dialog_.FileName = *chosen;
         session.LastFolder = DirectoryPart(*chosen);
         session.CurrentFile = *chosen;
@@ -375,8 +396,10 @@ void frmMain::openExistingFile() {
 void frmMain::reopenLastSession() {
     beginFileCommand();
     Session& session = context_.session;
-    if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile])) session.CurrentFile = *line;
-    if (session.CurrentFile.empty()) session.CurrentFile = UntitledFile;
+    if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile]))
+        session.CurrentFile = *line;
+    if (session.CurrentFile.empty())
+        session.CurrentFile = UntitledFile;
     if (!session.isUntitled()) {
         fileItem(14)->setEnabled(true);
         session.OutputPath = BaseName(session.CurrentFile) + "out";
@@ -390,7 +413,8 @@ void frmMain::reopenLastSession() {
 void frmMain::saveFile() {
     beginFileCommand();
     // A save that failed leaves the data unsaved, and the model may not run on it.
-    if (SaveInputFile(context_)) mnuRun->setVisible(true);
+    if (SaveInputFile(context_))
+        mnuRun->setVisible(true);
     UpdateViewMenu(context_, this);
     endFileCommand();
 }
@@ -399,7 +423,8 @@ void frmMain::saveFileAs() {
     beginFileCommand();
     dialog_.DialogTitle = "Save Brooklet file";
     SaveInputFileAs();
-    if (!context_.session.DataChanged) mnuRun->setVisible(true);
+    if (!context_.session.DataChanged)
+        mnuRun->setVisible(true);
     UpdateViewMenu(context_, this);
     endFileCommand();
 }
@@ -418,7 +443,8 @@ void frmMain::SaveInputFileAs() {
     dialog_.CancelError = true;
     dialog_.InitDir = session.LastFolder;
     const auto chosen = context_.platform.showSaveDialog(dialog_);
-    if (!chosen) return;
+    if (!chosen)
+        return;
     dialog_.FileName = *chosen;
     session.LastFolder = DirectoryPart(*chosen);
     setCurrentFolder(session.ProgramFolder);
@@ -459,7 +485,8 @@ void frmMain::exitProgram() {
                 if (!chosen->empty()) {
                     session.CurrentFile = *chosen;
                     // A file that could not be written keeps the program open, so nothing is lost.
-                    if (!SaveInputFile(context_)) return;
+                    if (!SaveInputFile(context_))
+                        return;
                 }
             }
         }
@@ -480,7 +507,8 @@ void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Promp
             Cancelled = true;
             return;
         }
-        if (answer == BoxAnswer::No) return;
+        if (answer == BoxAnswer::No)
+            return;
         SaveInputFile(context_);
     }
     CloseInputFile();

@@ -41,6 +41,8 @@ public:
     void CloseInputFile();
     void SaveInputFileAs();
 
+    void setFileItemEnabled(int index, bool enabled) { fileItems_(index)->setEnabled(enabled); }
+
     // The File menu's commands by item index.
     void fileCommand(int index);
 

@@ -13,12 +13,14 @@ namespace brooklet::test {
 
 ProgramFolder::ProgramFolder() {
     std::string pattern = (fs::temp_directory_path() / "brooklet-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary program folder");
+    if (!mkdtemp(pattern.data()))
+        throw std::runtime_error("cannot make a temporary program folder");
     path_ = pattern;
     previous_ = fs::current_path().string();
     std::error_code ec;
     for (const auto& entry : fs::directory_iterator(BROOKLET_DATA_DIR, ec))
-        if (entry.is_regular_file()) fs::copy_file(entry.path(), fs::path(path_) / entry.path().filename());
+        if (entry.is_regular_file())
+            fs::copy_file(entry.path(), fs::path(path_) / entry.path().filename());
     fs::current_path(path_);
 }
 

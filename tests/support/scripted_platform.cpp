@@ -1,5 +1,7 @@
 #include "support/scripted_platform.h"
 
+#include "session/qt_platform.h"
+
 #include <gtest/gtest.h>
 
 namespace brooklet::test {
@@ -36,6 +38,47 @@ std::optional<std::string> ScriptedPlatform::showOpenDialog(const FileDialogSett
 std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSettings& dialog) {
     saveDialogs.push_back(dialog);
     return nextPick(savePicks, "save");
+}
+
+bool ScriptedPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {
+    programsRun.emplace_back(program, folder);
+    return runHiddenAndWait(program, folder);
+}
+
+namespace {
+// Prints into a job of the scripted platform.
+class RecordingPrinter : public PrintTarget {
+public:
+    RecordingPrinter(std::vector<ScriptedPlatform::PrintJob>& jobs, size_t job) : jobs_(jobs), job_(job) {}
+    void setFont(const std::string& family, int points) override {
+        jobs_[job_].font = family;
+        jobs_[job_].points = points;
+    }
+    void printLine(const std::string& line) override { jobs_[job_].pages.back().push_back(line); }
+    void newPage() override { jobs_[job_].pages.emplace_back(); }
+    void endDoc() override { jobs_[job_].ended = true; }
+
+private:
+    std::vector<ScriptedPlatform::PrintJob>& jobs_;
+    size_t job_;
+};
+} // namespace
+
+std::optional<PrinterChoice> ScriptedPlatform::showPrinterDialog(const PrinterDialogSettings& dialog) {
+    printerDialogs.push_back(dialog);
+    if (printerAnswers.empty()) {
+        ADD_FAILURE() << "a printer dialog nobody scripted an answer for";
+        return std::nullopt;
+    }
+    const auto flags = printerAnswers.front();
+    printerAnswers.pop_front();
+    if (!flags)
+        return std::nullopt;
+    printJobs.emplace_back();
+    PrinterChoice choice;
+    choice.Flags = *flags;
+    choice.printer = std::make_unique<RecordingPrinter>(printJobs, printJobs.size() - 1);
+    return choice;
 }
 
 std::vector<std::string> ScriptedPlatform::boxTexts() const {

@@ -1,6 +1,7 @@
 #include "support/ui_fixture.h"
 
 #include <QAction>
+#include <QPointer>
 
 #include "session/window_catalog.h"
 
@@ -12,8 +13,13 @@ UiTest::UiTest() : context(std::make_unique<AppContext>(platform)) {
 
 UiTest::~UiTest() {
     // Close every window before the context they refer to goes.
+    // Deleting one window may delete others with it, so hold them by guarded pointers.
+    QList<QPointer<QWidget>> windows;
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window != main && !window->parentWidget()) delete window;
+        if (window != main && !window->parentWidget())
+            windows << window;
+    for (const QPointer<QWidget>& window : windows)
+        delete window.data();
     delete main;
 }
 
