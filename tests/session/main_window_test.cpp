@@ -466,6 +466,16 @@ TEST_F(MainWindowTest, SaveAsAsksAndSavesUnderTheNewName) {
     EXPECT_FALSE(menuShown("mnuPlots"));
 }
 
+TEST_F(MainWindowTest, SavingANewSessionWithNothingEnteredGivesFourteenBlankLines) {
+    startMain();
+    clickMenuItem("mnuFileItem(1)");
+    main->Form_Activate();
+    platform.savePicks.push_back(folder.file("empty.inp"));
+    platform.answers.push_back(BoxAnswer::Yes);
+    clickMenuItem("mnuFileItem(15)");
+    EXPECT_EQ(bytesOf(folder.file("empty.inp")), crlf(std::vector<std::string>(14)));
+}
+
 TEST_F(MainWindowTest, SaveAsOffersTheCurrentFileName) {
     startMain();
     const std::string shed = inputFile("shed.inp", Shed);
