@@ -42,6 +42,27 @@ const std::string& sectionHeader(int section);
 // The work file names, index 1 to 16, without folder.
 const std::string& workFileName(int number);
 
+// The unit words, set by the identifier editor from its input and output unit choices and read
+// by every window and plot. English and metric differ in words only: what the user typed is
+// stored as typed and never converted.
+struct UnitWords {
+    // Chosen by the input units.
+    std::string AreaUnit;
+    std::string UnitFlowUnit;
+    std::string SmallAreaUnit;
+    std::string FlowUnit;
+    std::string LengthUnit;
+    std::string DepthUnit;
+    std::string DepthRateUnit;
+    std::string VolumeUnit;
+    std::string VelocityUnit;
+    std::string SectionAreaUnit;
+    // Chosen by the output units.
+    std::string OutputFlowUnit;
+    std::string OutputUnitFlowUnit;
+    std::string OutputAreaUnit;
+};
+
 // The session variables and the tables filled once at start-up.
 struct Session {
     std::string CurrentFile = UntitledFile;
@@ -56,6 +77,10 @@ struct Session {
     std::string HelpCode;
     bool EnglishUnits = true;
     std::string EditorTitle = "Brooklet Editor 2001";
+    // Empty until the identifier editor first loads.
+    UnitWords Units;
+    // Index of the item now in a help box, -999 when none; 0 is a window's own entry.
+    short HelpShown = -999;
 
     std::array<std::string, SectionCount + 1> SectionTable;            // 1..15
     std::array<std::string, WorkFileCount + 1> WorkFilePath;           // 1..16

@@ -1,0 +1,227 @@
+#include "options/entry_window.h"
+
+#include "editing/help_box.h"
+#include "session/app_context.h"
+#include "session/main_window.h"
+#include "session/text_file.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace brooklet {
+namespace {
+
+bool isMoveKey(const QKeyEvent* key) {
+    return key->key() == Qt::Key_Tab || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+}
+
+bool byKeyboard(Qt::FocusReason reason) {
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+           reason == Qt::ShortcutFocusReason;
+}
+
+} // namespace
+
+EntryWindow::EntryWindow(AppContext& context, EntryDesign design, QWidget* parent)
+    : QWidget(parent), context(context), session(context.session), design_(std::move(design)) {
+    setObjectName(design_.Window);
+    auto* layout = new QVBoxLayout(this);
+    form_ = new QGridLayout;
+    form_->setColumnStretch(1, 1);
+    layout->addLayout(form_);
+    txtHelp = makeHelpBox(this);
+}
+
+void EntryWindow::Form_Load() {
+    setWindowTitle(design_.Caption.left(design_.CaptionKeep) + "   Current File - " +
+                   pathToQt(session.CurrentFile));
+    session.HelpCode = design_.HelpCode;
+    Accepting = false;
+    session.HelpShown = NoHelpShown;
+    setDefaults();
+    const std::vector<std::string> lines = readLines(session.WorkFilePath[design_.Section]);
+    if (!lines.empty())
+        readSection(lines);
+    afterLoad();
+}
+
+void EntryWindow::acceptChanges() {
+    Accepting = true;
+    const std::string& path = session.WorkFilePath[design_.Section];
+    const WriteResult written = writeLines(path, sectionRecords());
+    if (!written.ok) {
+        // The work file stays as it was, and so does the window, so nothing typed is lost.
+        context.platform.showBox({"The work file " + path + " could not be written (" + written.error +
+                                      "). The section is as it was before; the window stays open.",
+                                  DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation});
+        Accepting = false;
+        return;
+    }
+    session.DataChanged = true;
+    close();
+}
+
+void EntryWindow::noChanges() {
+    close();
+}
+
+void EntryWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    // The main window's activation refreshes the X marks and the Run and View menus; it runs
+    // here too, for platforms that do not activate it when this window goes.
+    if (auto* main = context.windows.loadedAs<frmMain>("frmMain"))
+        main->Form_Activate();
+}
+
+HelpLabel* EntryWindow::addHeader(const QString& caption) {
+    lblHeader = new HelpLabel(caption, this);
+    nameControl(lblHeader, "lblHeader", caption);
+    QFont font = lblHeader->font();
+    font.setBold(true);
+    font.setPointSize(font.pointSize() + 2);
+    lblHeader->setFont(font);
+    lblHeader->setAsksForHelp(!HelpCodeFor(toBytes(design_.Window), 0).empty());
+    connect(lblHeader, &HelpLabel::clicked, this, [this] { showHelp(0); });
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, lblHeader);
+    return lblHeader;
+}
+
+HelpLabel* EntryWindow::addLabel(int index, const QString& caption) {
+    auto* label = new HelpLabel(caption, this);
+    nameControl(label, indexedName("lblInput", index), caption);
+    label->setAsksForHelp(!HelpCodeFor(toBytes(design_.Window), index).empty());
+    connect(label, &HelpLabel::clicked, this, [this, index] { showHelp(index); });
+    lblInput.add(index, label);
+    return label;
+}
+
+QLineEdit* EntryWindow::addBox(int index, const QString& accessibleName) {
+    auto* box = new QLineEdit(this);
+    nameControl(box, indexedName("txtInp", index), accessibleName);
+    setBackground(box, UntouchedColour);
+    box->installEventFilter(this);
+    txtInp.add(index, box);
+    return box;
+}
+
+QLabel* EntryWindow::addUnitLabel(int index) {
+    auto* label = new QLabel(this);
+    nameControl(label, indexedName("lblInUnit", index));
+    lblInUnit.add(index, label);
+    return label;
+}
+
+QRadioButton* EntryWindow::addOption(ControlArray<QRadioButton>& array, const QString& arrayName, int index,
+                                     const QString& caption, QButtonGroup* group) {
+    auto* option = new QRadioButton(caption, this);
+    nameControl(option, indexedName(arrayName, index), caption);
+    group->addButton(option, index);
+    array.add(index, option);
+    return option;
+}
+
+void EntryWindow::addRow(QWidget* label, std::initializer_list<QWidget*> fields, QWidget* unit) {
+    const int row = form_->rowCount();
+    if (label)
+        form_->addWidget(label, row, 0, Qt::AlignLeft | Qt::AlignTop);
+    auto* line = new QHBoxLayout;
+    for (QWidget* field : fields)
+        line->addWidget(field);
+    line->addStretch();
+    form_->addLayout(line, row, 1);
+    if (unit)
+        form_->addWidget(unit, row, 2);
+}
+
+void EntryWindow::addButtons(const QString& cancelCaption, const QString& finishedCaption) {
+    cmdCancel = new QPushButton(cancelCaption, this);
+    nameControl(cmdCancel, "cmdCancel", cancelCaption);
+    cmdFinished = new QPushButton(finishedCaption, this);
+    nameControl(cmdFinished, "cmdFinished", finishedCaption);
+    connect(cmdCancel, &QPushButton::clicked, this, &EntryWindow::noChanges);
+    connect(cmdFinished, &QPushButton::clicked, this, &EntryWindow::acceptChanges);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdCancel);
+    buttons->addWidget(cmdFinished);
+    auto* outer = static_cast<QVBoxLayout*>(layout());
+    outer->addLayout(buttons);
+    // The help box opens below everything else.
+    outer->removeWidget(txtHelp);
+    outer->addWidget(txtHelp);
+}
+
+void EntryWindow::passFocusOn(QWidget* control, int index) {
+    passOn_[control] = index;
+    control->installEventFilter(this);
+}
+
+void EntryWindow::paintBox(int index, bool valid) {
+    if (QLineEdit* box = txtInp(index))
+        setBackground(box, valid ? AcceptedColour : RefusedColour);
+}
+
+void EntryWindow::showHelp(int index) {
+    const std::string code = HelpCodeFor(toBytes(design_.Window), index);
+    if (!code.empty())
+        ShowHelpItem(session, index, txtHelp, code);
+}
+
+void EntryWindow::focusBox(int index) {
+    if (QLineEdit* box = txtInp(index))
+        box->setFocus(Qt::OtherFocusReason);
+}
+
+void EntryWindow::boxKey(int index) {
+    int moveFrom = index;
+    // A refused box: the next box is figured from the index before it, so the focus stays.
+    if (!checkBox(index))
+        moveFrom = index - 1;
+    focusMovedTo_ = nextBox(moveFrom);
+    focusBox(focusMovedTo_);
+}
+
+int EntryWindow::boxIndexOf(QObject* control) const {
+    for (const auto& [index, box] : txtInp.all())
+        if (box == control)
+            return index;
+    return -1;
+}
+
+bool EntryWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        auto passOn = passOn_.find(watched);
+        if (passOn != passOn_.end() && byKeyboard(static_cast<QFocusEvent*>(event)->reason())) {
+            focusBox(passOn->second);
+            return false;
+        }
+    }
+    const int index = boxIndexOf(watched);
+    if (index < 0)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (isMoveKey(key) && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+            boxKey(index);
+            return true;
+        }
+        if (key->key() == Qt::Key_F1) {
+            showHelp(labelOfBox(index));
+            return true;
+        }
+    } else if (event->type() == QEvent::FocusOut && Accepting) {
+        // Only while accepting: leaving a box with the mouse checks nothing.
+        checkBox(index);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace brooklet

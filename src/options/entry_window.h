@@ -1,0 +1,122 @@
+#pragma once
+// The entry window pattern that every editor window follows. A window reads its section's work
+// file into its controls when it loads, works on its controls only while the user edits, and
+// rewrites the whole work file on "Accept Changes". Tab or Enter in a box checks the box, eats
+// the key and moves the focus by the window's own order of indexes; a refused box keeps the
+// focus. A click on a label toggles its help. When the window closes, the main window refreshes
+// its section list.
+//
+// A window derives from EntryWindow, builds its controls, then calls Form_Load; it tells only
+// what differs: its defaults, how it reads and writes its records, its checks and its order.
+#include <QWidget>
+
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "editing/help_view.h"
+#include "editing/widgets.h"
+
+class QButtonGroup;
+class QGridLayout;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace brooklet {
+
+struct AppContext;
+struct Session;
+
+// What an editor window is by design.
+struct EntryDesign {
+    QString Window;       // its name, "frmFlume"
+    QString Caption;      // the caption it was designed with
+    int CaptionKeep = 0;  // how many characters of it the run-time caption keeps
+    std::string HelpCode; // the code of its help entries
+    int Section = 0;      // the section whose work file it edits
+};
+
+class EntryWindow : public QWidget {
+    Q_OBJECT
+public:
+    const EntryDesign& design() const { return design_; }
+    bool accepting() const { return Accepting; }
+    // The box index that the last Tab or Enter sent the focus to; -1 before any.
+    int focusMovedTo() const { return focusMovedTo_; }
+
+    // "Accept Changes": writes the section from the controls, sets DataChanged and closes.
+    void acceptChanges();
+    // "No Changes": closes; nothing is written and DataChanged stays as it was.
+    void noChanges();
+
+protected:
+    EntryWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
+
+    // The load: caption with the current file, help code, flags, the defaults, then the work
+    // file when it has content. A missing or empty work file leaves the defaults.
+    void Form_Load();
+
+    // The controls' values before the work file is read.
+    virtual void setDefaults() = 0;
+    // The lines of a work file that has content, its header line first.
+    virtual void readSection(const std::vector<std::string>& lines) = 0;
+    // The last step of the load, after the work file.
+    virtual void afterLoad() {}
+    // The whole section from the current controls, at Accept; no lines leave the file empty.
+    virtual std::vector<std::string> sectionRecords() = 0;
+    // Checks box Index on Tab or Enter and paints it; false when the box is refused.
+    virtual bool checkBox(int index) = 0;
+    // The box that Tab or Enter leads to from box Index (from Index - 1 after a refusal).
+    virtual int nextBox(int index) const { return index + 1; }
+    // The label whose help F1 shows in box Index.
+    virtual int labelOfBox(int index) const { return index; }
+    // Gives box Index the focus.
+    virtual void focusBox(int index);
+
+    // Building the window: a header, rows of label, fields and unit word, the two buttons and
+    // the help box below them.
+    HelpLabel* addHeader(const QString& caption);
+    HelpLabel* addLabel(int index, const QString& caption);
+    QLineEdit* addBox(int index, const QString& accessibleName);
+    QLabel* addUnitLabel(int index);
+    QRadioButton* addOption(ControlArray<QRadioButton>& array, const QString& arrayName, int index,
+                            const QString& caption, QButtonGroup* group);
+    void addRow(QWidget* label, std::initializer_list<QWidget*> fields, QWidget* unit = nullptr);
+    void addButtons(const QString& cancelCaption, const QString& finishedCaption);
+    // A control that, given the focus by the keyboard, hands it on to box Index.
+    void passFocusOn(QWidget* control, int index);
+
+    // Paints a checked box: its window's accepted colour, or red.
+    void paintBox(int index, bool valid);
+    // Toggles help item Index of this window (0 for the header).
+    void showHelp(int index);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+    AppContext& context;
+    Session& session;
+    ControlArray<QLineEdit> txtInp;
+    ControlArray<HelpLabel> lblInput;
+    ControlArray<QLabel> lblInUnit;
+    HelpLabel* lblHeader = nullptr;
+    QPlainTextEdit* txtHelp = nullptr;
+    QPushButton* cmdFinished = nullptr;
+    QPushButton* cmdCancel = nullptr;
+    // Set by Accept: only then does a box that loses the focus get checked.
+    bool Accepting = false;
+
+private:
+    void boxKey(int index);
+    int boxIndexOf(QObject* control) const;
+
+    EntryDesign design_;
+    QGridLayout* form_ = nullptr;
+    int focusMovedTo_ = -1;
+    std::map<QObject*, int> passOn_;
+};
+
+} // namespace brooklet
