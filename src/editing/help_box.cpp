@@ -20,7 +20,7 @@ std::vector<int> indexRange(int first, int last) {
 }
 
 std::vector<int> verificationIndexes() {
-    std::vector<int> indexes{0};
+    std::vector<int> indexes;
     for (const auto& [first, last] : {std::pair{1, 15}, std::pair{21, 29}, std::pair{31, 41}})
         for (int i = first; i <= last; ++i)
             indexes.push_back(i);
@@ -135,7 +135,7 @@ const std::vector<HelpRequests>& HelpCodeTable() {
         {"SA", "frmStorm", indexRange(0, 7)},
         {"SR", "frmStruct", indexRange(0, 5)},
         {"RD", "frmRainDist", indexRange(0, 3)},
-        {"LL", "frmLocalLanduse", indexRange(0, 5)},
+        {"LL", "frmLocalLanduse", indexRange(1, 5)},
         {"IH", "frmInpHyd", indexRange(0, 8)},
         {"XS", "frmXsect", indexRange(0, 10)},
         {"RC", "frmReaches", indexRange(0, 18)},
@@ -153,12 +153,16 @@ const std::vector<HelpRequests>& HelpCodeTable() {
 
 std::vector<std::string> AllHelpKeys() {
     std::vector<std::string> keys;
-    for (const HelpRequests& window : HelpCodeTable())
-        for (int index : window.Indexes) {
-            std::string key = HelpKey(window.Code, index);
-            if (std::find(keys.begin(), keys.end(), key) == keys.end())
-                keys.push_back(std::move(key));
-        }
+    auto add = [&keys](std::string key) {
+        if (std::find(keys.begin(), keys.end(), key) == keys.end())
+            keys.push_back(std::move(key));
+    };
+    for (const HelpRequests& window : HelpCodeTable()) {
+        // Every code has its window entry, also where no header asks for it.
+        add(window.Code);
+        for (int index : window.Indexes)
+            add(HelpKey(window.Code, index));
+    }
     return keys;
 }
 

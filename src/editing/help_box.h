@@ -40,7 +40,8 @@ struct HelpRequests {
 // sub-area window and for their own entry under a code of their own.
 const std::vector<HelpRequests>& HelpCodeTable();
 
-// Every key a window can ask for, each once, in the order of the table.
+// Every key a window can ask for, and the window entry of every code, each once, in the
+// order of the table.
 std::vector<std::string> AllHelpKeys();
 
 // The code under which a click on label Index of the window asks for help; empty when that

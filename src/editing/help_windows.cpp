@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <vector>
 
 namespace brooklet {
 
@@ -114,6 +115,7 @@ void drawPart(QPainter& painter, const Part& part) {
     QFont font = painter.font();
     font.setPixelSize(14);
     font.setBold(true);
+    font.setItalic(false);
     painter.setFont(font);
     const QRectF titleArea(r.left() + 4, r.top() + 4, r.width() - 8, 20);
     painter.drawText(titleArea, Qt::AlignHCenter | Qt::AlignTop, part.title);
@@ -138,10 +140,127 @@ void drawArrow(QPainter& painter, const Arrow& arrow) {
     if (*arrow.words) {
         QFont font = painter.font();
         font.setPixelSize(12);
+        font.setBold(false);
         font.setItalic(true);
         painter.setFont(font);
         painter.drawText(arrow.wordsAt, arrow.words);
     }
+}
+
+// The windows of text alone: name, caption and paragraphs.
+struct TextWindow {
+    const char* name;
+    const char* caption;
+    QStringList paragraphs;
+};
+
+const std::vector<TextWindow>& textWindows() {
+    static const std::vector<TextWindow> windows = {
+        {"frmOverview",
+         "Overviews Help",
+         {
+             "Brooklet is the controller and editor of the Flume watershed model. The model, flume.exe, is a "
+             "console program of its own: it reads one input file and leaves its results in files beside it. "
+             "Brooklet prepares that input file, starts the model on it, waits for it, and shows what it "
+             "wrote. "
+             "Two more programs lie beside the model: the input converter, which turns input files of the "
+             "model's "
+             "older form into the current form, and the HEC-RAS reformatter, which turns HEC-RAS output into "
+             "stream cross section records. Brooklet starts each of them the same way, through a small "
+             "control "
+             "file in the program folder that names the data file.",
+             "The input file is organised in sections, one for each kind of data: the Brooklet "
+             "identification "
+             "(units and description), sub-areas, stream reaches, structure ratings, stream cross sections, "
+             "storms, rainfall distributions, input hydrographs, the dimensionless unit hydrograph, "
+             "alternates, "
+             "and the run options (duration increment, time analysis, global output and verification). The "
+             "main "
+             "window lists the sections; an X in front of a section says that it holds data. Click a section "
+             "to "
+             "open its entry window, which lays out every field of the section with its label, unit and "
+             "check, "
+             "so the fixed columns of the file are never typed by hand.",
+             "While you work, each section lives in a work file of its own in the temp folder. An entry "
+             "window "
+             "reads its work file when it opens and rewrites it when you click Accept Changes; No Changes "
+             "leaves "
+             "it as it was. File, Save joins the work files into the input file. The Run menu is offered for "
+             "a "
+             "named file with no unsaved changes, so the model always reads what you see. After a run the "
+             "View "
+             "menu shows the printed page, error, debug, hydrograph and FloodEcon files, the Plots menu "
+             "draws "
+             "hydrographs, peak flows and time analyses from the printed page file, and View, Schematic "
+             "draws "
+             "the network of sub-areas and reaches.",
+         }},
+        {"frmHelpFac",
+         "Help Facilities Help",
+         {
+             "Every entry window explains its own fields. The heading at the top of a window and the labels "
+             "in "
+             "front of its fields can be clicked: a click opens the help box at the bottom of the window, "
+             "with "
+             "the title of the item, what it means and how the model uses it, and the range of values the "
+             "window "
+             "accepts, in the unit system of the file (English or metric, as chosen in the Brooklet "
+             "Identifier "
+             "window). Click the same label again to close the box; click another label to see its help "
+             "instead. With the keyboard, press F1 in a field to toggle the help of its label.",
+             "Fields are checked when you leave them with Tab or Enter. A field that passes turns light "
+             "blue; a "
+             "field that fails turns red and keeps the cursor, so it can be corrected at once. No message "
+             "interrupts the typing, and Accept Changes writes what stands in the fields, red or not, so "
+             "look "
+             "for red fields before you accept.",
+             "The Help menu of the main window offers: Brooklet System Diagram, a picture of the programs "
+             "and the "
+             "files between them; Overview, how the controller runs the programs and is organised by input "
+             "sections; Help Facilities, this page; Getting Started, the first steps of editing, converting, "
+             "reformatting and running; and About Controller / Editor, with the version and the disclaimer. "
+             "The "
+             "texts of the help box are kept in the file BrookletHelp.lst in the program folder.",
+         }},
+        {"frmGettingStarted",
+         "Getting Started Help",
+         {
+             "Editing. Choose File, New Brooklet File to describe a new watershed, or File, Open Existing "
+             "Brooklet "
+             "File to open an input file (.inp). The Brooklet Identifier window opens first: choose the "
+             "input and "
+             "output units, which give every other window its unit words, and describe the watershed. Then "
+             "click "
+             "a section in the list of the main window to enter its data, and close each window with Accept "
+             "Changes to keep what you entered or No Changes to drop it. File, Save writes the input file; "
+             "File, "
+             "ReOpen Last Session returns to the work of the last session, saved or not.",
+             "Converting. An input file of the model's older form (.dat) is brought into the current form "
+             "with "
+             "File, Convert old Data. Pick the old file; the input converter writes an input file of the "
+             "same "
+             "name "
+             "with the extension .inp, and Brooklet opens it as if you had opened it yourself. Look through "
+             "the "
+             "sections, then save.",
+             "Reformatting. Stream cross sections computed with HEC-RAS are brought in with File, Import "
+             "HEC-RAS. "
+             "Pick the HEC-RAS output file (.txt); the HEC-RAS reformatter turns it into stream cross "
+             "section "
+             "records, which are added to the Stream Cross Section section of the session. Open that section "
+             "to "
+             "check the ratings, then save.",
+             "Running. Save the input file first: the Run menu is offered only for a named file with no "
+             "unsaved "
+             "changes. Choose Run; the model works on the saved file, and when it ends Brooklet shows the "
+             "printed "
+             "page file, or the error file when the model reported errors. The View menu then lists the "
+             "files "
+             "that the run left, and the Plots menu draws hydrographs, peak flows and time analyses from the "
+             "printed page file.",
+         }},
+    };
+    return windows;
 }
 
 } // namespace
@@ -159,17 +278,6 @@ PlainHelpWindow::PlainHelpWindow(const QString& name, const QString& caption, QW
 
 void PlainHelpWindow::addContent(QWidget* content) {
     static_cast<QVBoxLayout*>(layout())->insertWidget(layout()->count() - 1, content, 1);
-}
-
-void PlainHelpWindow::addText(const QStringList& paragraphs) {
-    auto* text = new QTextBrowser(this);
-    nameControl(text, "txtHelpText", windowTitle());
-    QString html;
-    for (const QString& paragraph : paragraphs)
-        html += "<p>" + paragraph.toHtmlEscaped() + "</p>";
-    text->setHtml(html);
-    text->setMinimumSize(620, 380);
-    addContent(text);
 }
 
 frmAbout::frmAbout(AppContext&, QWidget* parent)
@@ -193,79 +301,28 @@ frmAbout::frmAbout(AppContext&, QWidget* parent)
     addContent(content);
 }
 
-frmOverview::frmOverview(AppContext&, QWidget* parent)
-    : PlainHelpWindow("frmOverview", "Overviews Help", parent) {
-    addText({
-        "Brooklet is the controller and editor of the Flume watershed model. The model, flume.exe, is a "
-        "console program of its own: it reads one input file and leaves its results in files beside it. "
-        "Brooklet prepares that input file, starts the model on it, waits for it, and shows what it wrote. "
-        "Two more programs lie beside the model: the input converter, which turns input files of the model's "
-        "older form into the current form, and the HEC-RAS reformatter, which turns HEC-RAS output into "
-        "stream cross section records. Brooklet starts each of them the same way, through a small control "
-        "file in the program folder that names the data file.",
-        "The input file is organised in sections, one for each kind of data: the Brooklet identification "
-        "(units and description), sub-areas, stream reaches, structure ratings, stream cross sections, "
-        "storms, rainfall distributions, input hydrographs, the dimensionless unit hydrograph, alternates, "
-        "and the run options (duration increment, time analysis, global output and verification). The main "
-        "window lists the sections; an X in front of a section says that it holds data. Click a section to "
-        "open its entry window, which lays out every field of the section with its label, unit and check, "
-        "so the fixed columns of the file are never typed by hand.",
-        "While you work, each section lives in a work file of its own in the temp folder. An entry window "
-        "reads its work file when it opens and rewrites it when you click Accept Changes; No Changes leaves "
-        "it as it was. File, Save joins the work files into the input file. The Run menu is offered for a "
-        "named file with no unsaved changes, so the model always reads what you see. After a run the View "
-        "menu shows the printed page, error, debug, hydrograph and FloodEcon files, the Plots menu draws "
-        "hydrographs, peak flows and time analyses from the printed page file, and View, Schematic draws "
-        "the network of sub-areas and reaches.",
-    });
+QStringList TextHelpWindow::names() {
+    QStringList names;
+    for (const TextWindow& window : textWindows())
+        names << window.name;
+    return names;
 }
 
-frmHelpFac::frmHelpFac(AppContext&, QWidget* parent)
-    : PlainHelpWindow("frmHelpFac", "Help Facilities Help", parent) {
-    addText({
-        "Every entry window explains its own fields. The heading at the top of a window and the labels in "
-        "front of its fields can be clicked: a click opens the help box at the bottom of the window, with "
-        "the title of the item, what it means and how the model uses it, and the range of values the window "
-        "accepts, in the unit system of the file (English or metric, as chosen in the Brooklet Identifier "
-        "window). Click the same label again to close the box; click another label to see its help "
-        "instead. With the keyboard, press F1 in a field to toggle the help of its label.",
-        "Fields are checked when you leave them with Tab or Enter. A field that passes turns light blue; a "
-        "field that fails turns red and keeps the cursor, so it can be corrected at once. No message "
-        "interrupts the typing, and Accept Changes writes what stands in the fields, red or not, so look "
-        "for red fields before you accept.",
-        "The Help menu of the main window offers: Brooklet System Diagram, a picture of the programs and the "
-        "files between them; Overview, how the controller runs the programs and is organised by input "
-        "sections; Help Facilities, this page; Getting Started, the first steps of editing, converting, "
-        "reformatting and running; and About Controller / Editor, with the version and the disclaimer. The "
-        "texts of the help box are kept in the file BrookletHelp.lst in the program folder.",
-    });
-}
-
-frmGettingStarted::frmGettingStarted(AppContext&, QWidget* parent)
-    : PlainHelpWindow("frmGettingStarted", "Getting Started Help", parent) {
-    addText({
-        "Editing. Choose File, New Brooklet File to describe a new watershed, or File, Open Existing "
-        "Brooklet "
-        "File to open an input file (.inp). The Brooklet Identifier window opens first: choose the input and "
-        "output units, which give every other window its unit words, and describe the watershed. Then click "
-        "a section in the list of the main window to enter its data, and close each window with Accept "
-        "Changes to keep what you entered or No Changes to drop it. File, Save writes the input file; File, "
-        "ReOpen Last Session returns to the work of the last session, saved or not.",
-        "Converting. An input file of the model's older form (.dat) is brought into the current form with "
-        "File, Convert old Data. Pick the old file; the input converter writes an input file of the same "
-        "name "
-        "with the extension .inp, and Brooklet opens it as if you had opened it yourself. Look through the "
-        "sections, then save.",
-        "Reformatting. Stream cross sections computed with HEC-RAS are brought in with File, Import HEC-RAS. "
-        "Pick the HEC-RAS output file (.txt); the HEC-RAS reformatter turns it into stream cross section "
-        "records, which are added to the Stream Cross Section section of the session. Open that section to "
-        "check the ratings, then save.",
-        "Running. Save the input file first: the Run menu is offered only for a named file with no unsaved "
-        "changes. Choose Run; the model works on the saved file, and when it ends Brooklet shows the printed "
-        "page file, or the error file when the model reported errors. The View menu then lists the files "
-        "that the run left, and the Plots menu draws hydrographs, peak flows and time analyses from the "
-        "printed page file.",
-    });
+TextHelpWindow::TextHelpWindow(const QString& name, QWidget* parent)
+    : PlainHelpWindow(name, QString(), parent) {
+    for (const TextWindow& window : textWindows()) {
+        if (name != window.name)
+            continue;
+        setWindowTitle(window.caption);
+        auto* text = new QTextBrowser(this);
+        nameControl(text, "txtHelpText", window.caption);
+        QString html;
+        for (const QString& paragraph : window.paragraphs)
+            html += "<p>" + paragraph.toHtmlEscaped() + "</p>";
+        text->setHtml(html);
+        text->setMinimumSize(620, 380);
+        addContent(text);
+    }
 }
 
 DiagramPicture::DiagramPicture(QWidget* parent) : QWidget(parent) {

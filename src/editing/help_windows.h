@@ -17,8 +17,7 @@ public:
     PlainHelpWindow(const QString& name, const QString& caption, QWidget* parent = nullptr);
 
 protected:
-    // Adds a text of paragraphs, each a plain text, in a box the user can read and select.
-    void addText(const QStringList& paragraphs);
+    // Places the window's content above the button.
     void addContent(QWidget* content);
 };
 
@@ -28,22 +27,14 @@ public:
     explicit frmAbout(AppContext& context, QWidget* parent = nullptr);
 };
 
-class frmOverview : public PlainHelpWindow {
+// frmOverview, frmHelpFac and frmGettingStarted: windows of paragraphs of text alone.
+class TextHelpWindow : public PlainHelpWindow {
     Q_OBJECT
 public:
-    explicit frmOverview(AppContext& context, QWidget* parent = nullptr);
-};
-
-class frmHelpFac : public PlainHelpWindow {
-    Q_OBJECT
-public:
-    explicit frmHelpFac(AppContext& context, QWidget* parent = nullptr);
-};
-
-class frmGettingStarted : public PlainHelpWindow {
-    Q_OBJECT
-public:
-    explicit frmGettingStarted(AppContext& context, QWidget* parent = nullptr);
+    // The names of these windows.
+    static QStringList names();
+    // The window of that name, with its caption and its text.
+    explicit TextHelpWindow(const QString& name, QWidget* parent = nullptr);
 };
 
 // The picture of the system: the programs, the files between them, and what carries what.

@@ -37,7 +37,9 @@ EntryWindow::EntryWindow(AppContext& context, EntryDesign design, QWidget* paren
     form_ = new QGridLayout;
     form_->setColumnStretch(1, 1);
     layout->addLayout(form_);
+    // The help box opens below everything else.
     txtHelp = makeHelpBox(this);
+    layout->addWidget(txtHelp);
 }
 
 void EntryWindow::Form_Load() {
@@ -135,10 +137,10 @@ void EntryWindow::addRow(QWidget* label, std::initializer_list<QWidget*> fields,
     auto* line = new QHBoxLayout;
     for (QWidget* field : fields)
         line->addWidget(field);
+    if (unit)
+        line->addWidget(unit);
     line->addStretch();
     form_->addLayout(line, row, 1);
-    if (unit)
-        form_->addWidget(unit, row, 2);
 }
 
 void EntryWindow::addButtons(const QString& cancelCaption, const QString& finishedCaption) {
@@ -153,10 +155,7 @@ void EntryWindow::addButtons(const QString& cancelCaption, const QString& finish
     buttons->addWidget(cmdCancel);
     buttons->addWidget(cmdFinished);
     auto* outer = static_cast<QVBoxLayout*>(layout());
-    outer->addLayout(buttons);
-    // The help box opens below everything else.
-    outer->removeWidget(txtHelp);
-    outer->addWidget(txtHelp);
+    outer->insertLayout(outer->indexOf(txtHelp), buttons);
 }
 
 void EntryWindow::passFocusOn(QWidget* control, int index) {

@@ -11,9 +11,8 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmFlume", [](AppContext& context) { return new frmFlume(context); });
     windows.registerWindow("frmAbout", [](AppContext& context) { return new frmAbout(context); });
     windows.registerWindow("frmDiagram", [](AppContext& context) { return new frmDiagram(context); });
-    windows.registerWindow("frmOverview", [](AppContext& context) { return new frmOverview(context); });
-    windows.registerWindow("frmHelpFac", [](AppContext& context) { return new frmHelpFac(context); });
-    windows.registerWindow("frmGettingStarted", [](AppContext& context) { return new frmGettingStarted(context); });
+    for (const QString& name : TextHelpWindow::names())
+        windows.registerWindow(name, [name](AppContext&) { return new TextHelpWindow(name); });
     windows.registerWindow("frmFileDisp", [](AppContext& context) { return new frmFileDisp(context); });
 }
 

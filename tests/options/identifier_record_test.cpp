@@ -108,47 +108,45 @@ TEST(IdentifierRecord, ARecordReadAndWrittenComesBackTheSame) {
     EXPECT_EQ(WriteIdentifierSection(ReadIdentifierSection(lines)), lines);
 }
 
-TEST(UnitWords, EnglishWords) {
-    Session session;
-    session.EnglishUnits = false;
-    SetInputUnitWords(session, true);
-    SetOutputUnitWords(session.Units, true);
-    const UnitWords& u = session.Units;
-    EXPECT_TRUE(session.EnglishUnits);
-    EXPECT_EQ(u.AreaUnit, "sq mi");
-    EXPECT_EQ(u.UnitFlowUnit, "csm");
-    EXPECT_EQ(u.SmallAreaUnit, "sq ft");
-    EXPECT_EQ(u.FlowUnit, "cfs");
-    EXPECT_EQ(u.LengthUnit, "ft");
-    EXPECT_EQ(u.DepthUnit, "in");
-    EXPECT_EQ(u.DepthRateUnit, "in/sec");
-    EXPECT_EQ(u.VolumeUnit, "ac ft");
-    EXPECT_EQ(u.VelocityUnit, "ft/sec");
-    EXPECT_EQ(u.SectionAreaUnit, "cu ft/ft len");
-    EXPECT_EQ(u.OutputFlowUnit, "cfs");
-    EXPECT_EQ(u.OutputUnitFlowUnit, "csm");
-    EXPECT_EQ(u.OutputAreaUnit, "sq mi");
+// The table of unit words: each word with its English and its metric form.
+struct UnitWordRow {
+    const char* name;
+    std::string UnitWords::*word;
+    const char* english;
+    const char* metric;
+};
+
+const UnitWordRow UnitWordTable[] = {
+    {"AreaUnit", &UnitWords::AreaUnit, "sq mi", "sq km"},
+    {"UnitFlowUnit", &UnitWords::UnitFlowUnit, "csm", "cu m/sec/sq km"},
+    {"SmallAreaUnit", &UnitWords::SmallAreaUnit, "sq ft", "sq m"},
+    {"FlowUnit", &UnitWords::FlowUnit, "cfs", "cu m/sec"},
+    {"LengthUnit", &UnitWords::LengthUnit, "ft", "m"},
+    {"DepthUnit", &UnitWords::DepthUnit, "in", "mm"},
+    {"DepthRateUnit", &UnitWords::DepthRateUnit, "in/sec", "mm/sec"},
+    {"VolumeUnit", &UnitWords::VolumeUnit, "ac ft", "ha m"},
+    {"VelocityUnit", &UnitWords::VelocityUnit, "ft/sec", "m/sec"},
+    {"SectionAreaUnit", &UnitWords::SectionAreaUnit, "cu ft/ft len", "cu m/m len"},
+    {"OutputFlowUnit", &UnitWords::OutputFlowUnit, "cfs", "cms"},
+    {"OutputUnitFlowUnit", &UnitWords::OutputUnitFlowUnit, "csm", "m^3/sec/sq km"},
+    {"OutputAreaUnit", &UnitWords::OutputAreaUnit, "sq mi", "sq km"},
+};
+
+TEST(UnitWords, EachSystemGivesItsColumnOfTheTable) {
+    for (bool english : {true, false}) {
+        Session session;
+        session.EnglishUnits = !english;
+        SetInputUnitWords(session, english);
+        SetOutputUnitWords(session.Units, english);
+        EXPECT_EQ(session.EnglishUnits, english);
+        for (const UnitWordRow& row : UnitWordTable)
+            EXPECT_EQ(session.Units.*row.word, english ? row.english : row.metric) << row.name;
+    }
 }
 
-TEST(UnitWords, MetricWords) {
-    Session session;
-    SetInputUnitWords(session, false);
-    SetOutputUnitWords(session.Units, false);
-    const UnitWords& u = session.Units;
-    EXPECT_FALSE(session.EnglishUnits);
-    EXPECT_EQ(u.AreaUnit, "sq km");
-    EXPECT_EQ(u.UnitFlowUnit, "cu m/sec/sq km");
-    EXPECT_EQ(u.SmallAreaUnit, "sq m");
-    EXPECT_EQ(u.FlowUnit, "cu m/sec");
-    EXPECT_EQ(u.LengthUnit, "m");
-    EXPECT_EQ(u.DepthUnit, "mm");
-    EXPECT_EQ(u.DepthRateUnit, "mm/sec");
-    EXPECT_EQ(u.VolumeUnit, "ha m");
-    EXPECT_EQ(u.VelocityUnit, "m/sec");
-    EXPECT_EQ(u.SectionAreaUnit, "cu m/m len");
-    EXPECT_EQ(u.OutputFlowUnit, "cms");
-    EXPECT_EQ(u.OutputUnitFlowUnit, "m^3/sec/sq km");
-    EXPECT_EQ(u.OutputAreaUnit, "sq km");
+TEST(UnitWords, TheFlowWordOfTheInputUnits) {
+    EXPECT_EQ(InputFlowUnit(true), "cfs");
+    EXPECT_EQ(InputFlowUnit(false), "cu m/sec");
 }
 
 TEST(UnitWords, MetricInputWithEnglishOutputGivesWordsOfBothSystems) {
