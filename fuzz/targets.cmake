@@ -1,2 +1,3 @@
 # Every fuzz target: brooklet_fuzz_target(name source...). Each source defines LLVMFuzzerTestOneInput.
 brooklet_fuzz_target(fuzz_input_file ${CMAKE_CURRENT_LIST_DIR}/fuzz_input_file.cpp)
+brooklet_fuzz_target(fuzz_help_list ${CMAKE_CURRENT_LIST_DIR}/fuzz_help_list.cpp)
