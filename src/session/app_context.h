@@ -1,6 +1,8 @@
 #pragma once
 // What the program holds as a whole: the session, the platform services and the open windows.
 // Windows receive it by reference; a test makes its own in its own program folder.
+#include "editing/grid_editor.h"
+#include "editing/watershed_tables.h"
 #include "session/platform.h"
 #include "session/section_table.h"
 #include "session/window_host.h"
@@ -17,6 +19,8 @@ struct AppContext {
     WindowHost windows;
     // Index of the alternate that the sub-area and reach windows work on; 0 for the base data.
     int CurrentAlternate = 0;
+    GridContext tabular;       // the grid variables and tabular tables of the grid window open
+    WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
 };
 
 } // namespace brooklet
