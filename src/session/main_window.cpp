@@ -1,5 +1,6 @@
 #include "session/main_window.h"
 
+#include "editing/help_windows.h"
 #include "run/file_viewer.h"
 #include "run/run_commands.h"
 #include "session/app_context.h"
@@ -21,11 +22,6 @@ namespace brooklet {
 namespace {
 
 const char* const DesignCaption = "Brooklet System Controller /  Editor ";
-const char* const Disclaimer =
-    "Although the Brooklet system software has been tested by its developers, NO warranty, expressed or "
-    "implied, is made as to the accuracy and functioning of the programs and related program material nor "
-    "shall the fact of distribution constitute any such warranty, and NO responsibility is assumed by the "
-    "developers in connection therewith.";
 
 const char* const EditorWindows[] = {"",           "frmAlternate", "frmDimHyd",      "frmDurInc",
                                      "frmGlobal",  "frmInpHyd",    "frmRainDist",    "frmXsect",
@@ -121,7 +117,7 @@ void frmMain::buildControls() {
     auto* text1 = new QLabel("Disclaimer", Frame1);
     nameControl(text1, "Text1", text1->text());
     text1->setAlignment(Qt::AlignCenter);
-    lblDisclaimer = new QLabel(Disclaimer, Frame1);
+    lblDisclaimer = new QLabel(DisclaimerText, Frame1);
     nameControl(lblDisclaimer, "lblDisclaimer", lblDisclaimer->text());
     lblDisclaimer->setWordWrap(true);
     frame1Layout->addWidget(text1);
