@@ -32,7 +32,6 @@ public:
 };
 
 bool save(QWidget* window, const QString& folder, const QString& name) {
-    window->adjustSize();
     const bool ok = window->grab().save(QDir(folder).filePath(name + ".png"));
     std::cout << (ok ? "saved " : "FAILED ") << name.toStdString() << "\n";
     return ok;
@@ -71,6 +70,7 @@ int main(int argc, char* argv[]) {
         main.Form_Activate();
         ok = save(&main, target, "frmMain_loaded") && ok;
     }
+    context.session.ViewIndex = 1; // the viewer shows the input file
     for (const QString& name : context.windows.registeredNames()) {
         if (QWidget* window = context.windows.ShowWindowAtOrigin(name))
             ok = save(window, target, name) && ok;
