@@ -1,6 +1,7 @@
 #pragma once
 // Large watersheds made up for measuring: thousands of sub-areas and reaches with structures,
-// cross sections, storms and alternates, as an input file in the program's own layout.
+// cross sections, storms, rain tables, input hydrographs and alternates, as an input file in
+// the program's own record layout, so that every reader and list finds what it looks for.
 #include <string>
 
 namespace brooklet::bench {
@@ -11,8 +12,16 @@ struct WatershedSize {
     int structures = 500;
     int crossSections = 500;
     int storms = 50;
+    int rainGages = 20;
+    int rainTables = 50;
+    int inputHydrographs = 50;
     int alternates = 100;
+    // Sub-area and reach entries of each alternate.
+    int alternateEntries = 5;
 };
+
+// A watershed of n sub-areas and n reaches, the other parts in proportion.
+WatershedSize scaledWatershed(int n);
 
 // The input file's bytes, with CR LF line ends.
 std::string generatedInputFile(const WatershedSize& size = WatershedSize());

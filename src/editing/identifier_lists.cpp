@@ -26,6 +26,26 @@ std::string listKey(const std::string& text) {
     return toUpper(trim(text));
 }
 
+// True when the item, trimmed and in upper case, is the key; the item is not copied.
+bool sameKey(const std::string& item, const std::string& key) {
+    size_t first = 0;
+    size_t last = item.size();
+    while (first < last && item[first] == ' ')
+        ++first;
+    while (last > first && item[last - 1] == ' ')
+        --last;
+    if (last - first != key.size())
+        return false;
+    for (size_t i = 0; i < key.size(); ++i) {
+        char c = item[first + i];
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+        if (c != key[i])
+            return false;
+    }
+    return true;
+}
+
 // The lines of a work file behind its header line; none when the file is missing.
 std::vector<std::string> sectionLines(const Session& session, int workFile) {
     std::vector<std::string> lines = readLines(session.WorkFilePath[size_t(workFile)]);
@@ -118,7 +138,7 @@ void AddUnique(ListControl& List, const std::string& Text) {
     const std::string key = listKey(Text);
     const int count = List.ListCount();
     for (int i = 0; i < count; ++i)
-        if (listKey(List.List(i)) == key)
+        if (sameKey(List.List(i), key))
             return;
     List.AddItem(trim(Text));
 }
