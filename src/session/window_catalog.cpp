@@ -1,7 +1,11 @@
 #include "session/window_catalog.h"
 
 #include "editing/help_windows.h"
+#include "options/duration_increment_editor.h"
+#include "options/global_output_editor.h"
 #include "options/identifier_editor.h"
+#include "options/time_analysis_editor.h"
+#include "options/verification_editor.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
 
@@ -9,6 +13,10 @@ namespace brooklet {
 
 void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmFlume", [](AppContext& context) { return new frmFlume(context); });
+    windows.registerWindow("frmDurInc", [](AppContext& context) { return new frmDurInc(context); });
+    windows.registerWindow("frmTimeA", [](AppContext& context) { return new frmTimeA(context); });
+    windows.registerWindow("frmGlobal", [](AppContext& context) { return new frmGlobal(context); });
+    windows.registerWindow("frmVerification", [](AppContext& context) { return new frmVerification(context); });
     windows.registerWindow("frmAbout", [](AppContext& context) { return new frmAbout(context); });
     windows.registerWindow("frmDiagram", [](AppContext& context) { return new frmDiagram(context); });
     for (const QString& name : TextHelpWindow::names())

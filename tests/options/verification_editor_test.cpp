@@ -1,0 +1,230 @@
+// frmVerification as the user meets it: the labelled check boxes in their three columns,
+// clicked and toggled from the keyboard, and the section they write.
+#include "option_editor_fixture.h"
+
+#include "options/verification_editor.h"
+
+#include <QCheckBox>
+
+namespace brooklet::test {
+namespace {
+
+const std::string Header = field("VERIFICATION:", 40);
+const std::string DataPrep = field("") + field("DATA PREP");
+const std::string Processing = field("") + field("PROCESSING");
+
+// The fields of checks First to Last, "Y " for those set.
+std::string fields(int first, int last, std::initializer_list<int> set) {
+    std::string text;
+    for (int index = first; index <= last; ++index)
+        text += std::find(set.begin(), set.end(), index) != set.end() ? "Y " : "  ";
+    return text;
+}
+
+bool isCheck(int index) {
+    return (index >= 1 && index <= 15) || (index >= 21 && index <= 29) || (index >= 31 && index <= 41);
+}
+
+class VerificationEditorTest : public OptionEditorTest<frmVerification> {
+protected:
+    VerificationEditorTest() : OptionEditorTest("frmVerification", 14) {}
+    QCheckBox* check(int index) { return element<QCheckBox>("Check1", index); }
+    std::vector<int> checked() {
+        std::vector<int> set;
+        for (int index = 1; index <= 41; ++index)
+            if (auto* box = window->findChild<QCheckBox*>(indexedName("Check1", index));
+                box && box->isChecked())
+                set.push_back(index);
+        return set;
+    }
+};
+
+// ---- Opening and load ------------------------------------------------------------------------
+
+TEST_F(VerificationEditorTest, ShowsALabelledCheckForEveryTraceAndNoneForTheReservedPlaces) {
+    open();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->pos(), QPoint(0, 0));
+    EXPECT_EQ(window->windowTitle(), "Verification   Current File - > Untitled <");
+    EXPECT_EQ(session().HelpCode, "VE");
+    EXPECT_EQ(window->design().Section, 14);
+    const std::map<int, QString> labels = {
+        {1, "Alternates Read"},
+        {2, "Dimensionless Unit  Hydrograph Read"},
+        {3, "Duration Increment Read"},
+        {4, "Global Output Read"},
+        {5, "Input Hydrographs Read"},
+        {6, "Rainfall Distributions Read"},
+        {7, "Runoff Curve Numbers Read"},
+        {8, "Stream Cross Sections Read"},
+        {9, "Stream Reaches Read"},
+        {10, "Storm Analysis Read"},
+        {11, "Structure Ratings Read"},
+        {12, "Sub-Areas Read"},
+        {13, "Time Analysis Read"},
+        {14, "Brooklet Run Identifier Read"},
+        {15, "Verification  Read"},
+        {21, "Storms and Rain Gage Combinations"},
+        {22, "Sub-Area Tc Computations"},
+        {23, "Sub-Area CN Computations"},
+        {24, "Unique Sub-Area List"},
+        {25, "Unique Reach List"},
+        {26, "Cross Section Rating Table"},
+        {27, "Array Indexes / Reference Identifiers"},
+        {28, "Rainfall Distributions Used"},
+        {29, "Reservoir Emptying Time"},
+        {31, "Upstream Reach Components"},
+        {32, "Number of Hydrographs"},
+        {33, "Watershed  Analysis Steps"},
+        {34, "Non-circular Reach Flow Path"},
+        {35, "Alternate Update"},
+        {36, "Hydrograph Generation"},
+        {37, "Hydrograph Channel Routing"},
+        {38, "Hydrograph Structure Routing"},
+        {39, "Hydrograph Addition"},
+        {40, "Hydrograph Flow Splitting"},
+        {41, "Flow Duration Computations"},
+    };
+    for (int index = 0; index <= 42; ++index) {
+        auto* box = window->findChild<QCheckBox*>(indexedName("Check1", index));
+        auto* text = window->findChild<QLabel*>(indexedName("lblInput", index));
+        const auto label = labels.find(index);
+        if (label == labels.end()) {
+            EXPECT_EQ(box, nullptr) << index;
+            EXPECT_EQ(text, nullptr) << index;
+            continue;
+        }
+        ASSERT_NE(box, nullptr) << index;
+        ASSERT_NE(text, nullptr) << index;
+        EXPECT_EQ(text->text(), label->second) << index;
+        EXPECT_EQ(box->accessibleName(), label->second) << index;
+        EXPECT_FALSE(box->isChecked()) << index;
+        EXPECT_TRUE(box->isVisible()) << index;
+    }
+    for (int head = 1; head <= 3; ++head)
+        EXPECT_EQ(element<QLabel>("lblStatic", head)->text(), "Yes") << head;
+    EXPECT_EQ(control<QLabel>(window, "lblHeader")->text(), "Verification:");
+    EXPECT_EQ(button("cmdCancel")->text(), "  No Changes  (Close)");
+    EXPECT_EQ(button("cmdFinished")->text(), "Accept Changes   (Close)");
+    EXPECT_EQ(focused(), check(1));
+}
+
+TEST_F(VerificationEditorTest, EachColumnStandsUnderItsYesAndBesideItsLabels) {
+    open();
+    const int columns[3][2] = {{1, 15}, {21, 29}, {31, 41}};
+    for (int head = 1; head <= 3; ++head) {
+        const QRect yes = element<QLabel>("lblStatic", head)->geometry();
+        const auto [first, last] = columns[head - 1];
+        for (int index = first; index <= last; ++index) {
+            const QRect box = check(index)->geometry();
+            EXPECT_TRUE(box.left() < yes.right() && box.right() > yes.left()) << index;
+            EXPECT_GT(box.top(), yes.top()) << index;
+            EXPECT_LT(label(index)->geometry().right(), box.left()) << index;
+        }
+    }
+}
+
+TEST_F(VerificationEditorTest, ReadsBothLinesIntoTheChecks) {
+    writeWorkFile(
+        {Header, DataPrep + fields(1, 30, {2, 14, 22, 29}), Processing + fields(31, 41, {31, 40}), ""});
+    open();
+    EXPECT_EQ(checked(), (std::vector<int>{2, 14, 22, 29, 31, 40}));
+}
+
+TEST_F(VerificationEditorTest, NamesAndYesAreReadInAnyCase) {
+    writeWorkFile({Header, "          Data Prep y y", "          processing    y"});
+    open();
+    EXPECT_EQ(checked(), (std::vector<int>{1, 2, 33}));
+}
+
+// ---- Checks and Accept -------------------------------------------------------------------------
+
+TEST_F(VerificationEditorTest, AcceptWritesTheChecksInTheirColumnsAndAnEmptyLine) {
+    open();
+    for (int index : {1, 15, 21, 29, 31, 41})
+        click(check(index));
+    accept();
+    EXPECT_EQ(workFileBytes(),
+              "VERIFICATION:                           \r\n"
+              "          DATA PREP Y                           Y           Y               Y   \r\n"
+              "          PROCESSINGY                   Y \r\n"
+              "\r\n");
+    EXPECT_TRUE(session().DataChanged);
+    EXPECT_TRUE(windowClosed());
+}
+
+TEST_F(VerificationEditorTest, OnlyProcessingChecksWriteNoDataPrepLine) {
+    open();
+    click(check(36));
+    accept();
+    EXPECT_EQ(workFileBytes(), crlf({Header, Processing + fields(31, 41, {36}), ""}));
+}
+
+TEST_F(VerificationEditorTest, OnlyDataPrepChecksWriteNoProcessingLine) {
+    open();
+    click(check(22));
+    accept();
+    EXPECT_EQ(workFileBytes(), crlf({Header, DataPrep + fields(1, 30, {22}), ""}));
+}
+
+TEST_F(VerificationEditorTest, AYesAtAReservedPlaceIsDroppedAndItsColumnKept) {
+    writeWorkFile({Header, DataPrep + fields(1, 30, {15, 16, 20, 21, 30})});
+    open();
+    EXPECT_EQ(checked(), (std::vector<int>{15, 21}));
+    accept();
+    EXPECT_EQ(workFileBytes(), crlf({Header, DataPrep + fields(1, 30, {15, 21}), ""}));
+}
+
+TEST_F(VerificationEditorTest, AClickClearsACheckAgainAndNoCheckWritesNothing) {
+    writeWorkFile({Header, DataPrep + fields(1, 30, {5}), ""});
+    main->Form_Activate();
+    EXPECT_EQ(listItem(), "X   Verification:");
+    open();
+    click(check(5));
+    EXPECT_FALSE(check(5)->isChecked());
+    accept();
+    EXPECT_EQ(workFileBytes(), "");
+    EXPECT_EQ(listItem(), "     Verification:");
+}
+
+TEST_F(VerificationEditorTest, TheChecksAreSetFromTheKeyboard) {
+    open();
+    QTest::keyClick(check(1), Qt::Key_Space);
+    QTest::keyClick(check(1), Qt::Key_Tab);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(checked(), (std::vector<int>{1, 2}));
+}
+
+TEST_F(VerificationEditorTest, NoChangesWritesNothing) {
+    open();
+    click(check(9));
+    cancel();
+    EXPECT_EQ(workFileBytes(), "");
+    EXPECT_FALSE(session().DataChanged);
+    EXPECT_TRUE(windowClosed());
+}
+
+// ---- Help --------------------------------------------------------------------------------------
+
+TEST_F(VerificationEditorTest, EveryLabelShowsItsEntryOfTheShippedHelp) {
+    open();
+    for (int index = 1; index <= 41; ++index) {
+        if (!isCheck(index))
+            continue;
+        // The entry's title is the label with its runs of blanks taken as one.
+        const std::string title = toBytes(label(index)->text().simplified());
+        EXPECT_EQ(helpOf(label(index)).rfind(std::string(10, ' ') + title + " \r\n", 0), 0u) << index;
+        EXPECT_EQ(session().HelpShown, index) << index;
+    }
+    click(label(41));
+    EXPECT_FALSE(helpBox()->isVisible());
+}
+
+TEST_F(VerificationEditorTest, TheHeaderShowsNoHelp) {
+    open();
+    click(control<QLabel>(window, "lblHeader"));
+    EXPECT_FALSE(helpBox()->isVisible());
+}
+
+} // namespace
+} // namespace brooklet::test
