@@ -10,16 +10,31 @@ namespace {
 
 constexpr int ValuesPerTable = 20;
 
-// A value store of `tables` tables of 20 values each, as a value grid window loads it.
-GridContext flowTables(int tables) {
+// Runs the step on a fresh copy of the loaded tables each time; the copy is made, and the last
+// one dropped, while the clock stands.
+template <typename Tables, typename Step>
+void onEachCopy(benchmark::State& state, const Tables& loaded, Step step) {
+    Tables tables;
+    for (auto _ : state) {
+        state.PauseTiming();
+        tables = loaded;
+        state.ResumeTiming();
+        step(tables);
+    }
+}
+
+// A value store of `tables` tables of `rows` positions of `fields` fields, as a grid window
+// loads it.
+GridContext loadedStore(int tables, int rows, int fields) {
     GridContext context;
-    resetTabularTables(context, 2, 1);
+    resetTabularTables(context, 2, fields, fields > 1 ? " " : "");
     for (int t = 1; t <= tables; ++t) {
         addTable(context);
         context.TableFirst[size_t(t)] = context.ValueCount + 1;
-        for (int v = 0; v < ValuesPerTable; ++v) {
+        for (int r = 0; r < rows; ++r) {
             context.ValueStore.ensureRows(++context.ValueCount);
-            context.ValueStore(context.ValueCount) = std::to_string(v) + ".";
+            for (int f = 1; f <= fields; ++f)
+                context.ValueStore(f, context.ValueCount) = std::to_string(100 + r) + ".";
         }
         context.TableLast[size_t(t)] = context.ValueCount;
     }
@@ -36,18 +51,13 @@ MemoryGrid flowGrid(int values) {
 // Stores `values` values into table `table` of a fresh copy of the store, each time.
 void storeFlow(benchmark::State& state, int table, int values, bool newTable) {
     const int tables = static_cast<int>(state.range(0));
-    const GridContext loaded = flowTables(tables);
+    const GridContext loaded = loadedStore(tables, ValuesPerTable, 1);
     MemoryGrid grid = flowGrid(values);
-    // The copy is made, and the last one dropped, while the clock stands.
-    GridContext context;
-    for (auto _ : state) {
-        state.PauseTiming();
-        context = loaded;
-        state.ResumeTiming();
+    onEachCopy(state, loaded, [&](GridContext& context) {
         context.TableCurrent = newTable ? addTable(context) : (table == 0 ? tables / 2 : table);
         StoreFlowGrid(context, grid, values);
         benchmark::DoNotOptimize(context.ValueCount);
-    }
+    });
     state.counters["positions"] = tables * ValuesPerTable;
 }
 
@@ -77,33 +87,18 @@ STORE_SIZES(StoreFlowGridNewTable);
 // A rating store of `tables` tables of 8 rows of 3 fields; the first grows to 12 rows.
 void StoreRowGridGrowFirst(benchmark::State& state) {
     const int tables = static_cast<int>(state.range(0));
-    GridContext loaded;
-    resetTabularTables(loaded, 2, 3, " ");
-    for (int t = 1; t <= tables; ++t) {
-        addTable(loaded);
-        loaded.TableFirst[size_t(t)] = loaded.ValueCount + 1;
-        for (int r = 0; r < 8; ++r) {
-            loaded.ValueStore.ensureRows(++loaded.ValueCount);
-            for (int f = 1; f <= 3; ++f)
-                loaded.ValueStore(f, loaded.ValueCount) = std::to_string(100 + r) + ".";
-        }
-        loaded.TableLast[size_t(t)] = loaded.ValueCount;
-    }
+    GridContext loaded = loadedStore(tables, 8, 3);
     MemoryGrid grid(14, 3);
     for (int r = 1; r <= 12; ++r)
         for (int c = 0; c < 3; ++c)
             grid.setCellText(r, c, std::to_string(100 + r) + ".");
-    GridContext context;
-    for (auto _ : state) {
-        state.PauseTiming();
-        context = loaded;
-        context.GridFirstRow = 1;
-        context.GridRowsUsed = 12;
-        context.TableCurrent = 1;
-        state.ResumeTiming();
+    loaded.GridFirstRow = 1;
+    loaded.GridRowsUsed = 12;
+    loaded.TableCurrent = 1;
+    onEachCopy(state, loaded, [&grid](GridContext& context) {
         StoreRowGrid(context, grid);
         benchmark::DoNotOptimize(context.ValueCount);
-    }
+    });
     state.counters["rows"] = tables * 8;
 }
 STORE_SIZES(StoreRowGridGrowFirst);
@@ -134,15 +129,10 @@ void BuildSubAreaTable(benchmark::State& state) {
 
 // Deleting the first sub-area moves every later row down.
 void DeleteFirstSubArea(benchmark::State& state) {
-    const WatershedTables loaded = subAreaTables(static_cast<int>(state.range(0)));
-    WatershedTables tables;
-    for (auto _ : state) {
-        state.PauseTiming();
-        tables = loaded;
-        state.ResumeTiming();
+    onEachCopy(state, subAreaTables(static_cast<int>(state.range(0))), [](WatershedTables& tables) {
         deleteSubAreaRow(tables, 1);
         benchmark::DoNotOptimize(tables.SubAreaCount);
-    }
+    });
 }
 
 // The alternate window's load: n sub-area and n reach entries spread over n / 50 alternates,
@@ -174,15 +164,10 @@ void BuildAlternateStore(benchmark::State& state) {
 
 // Deleting the first alternate moves every later one down.
 void DeleteFirstAlternate(benchmark::State& state) {
-    const WatershedTables loaded = alternateStore(static_cast<int>(state.range(0)));
-    WatershedTables tables;
-    for (auto _ : state) {
-        state.PauseTiming();
-        tables = loaded;
-        state.ResumeTiming();
+    onEachCopy(state, alternateStore(static_cast<int>(state.range(0))), [](WatershedTables& tables) {
         deleteAlternate(tables, 1);
         benchmark::DoNotOptimize(tables.AlternateCount);
-    }
+    });
 }
 
 // The sub-area window in alternate mode: the n sub-areas of one alternate are taken out of

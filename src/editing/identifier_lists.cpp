@@ -124,6 +124,12 @@ void walkAlternateLists(const std::vector<std::string>& lines, AlternateList wan
     }
 }
 
+// Every name in columns 11-20 of a section, in file order.
+void addNamesOf(const Session& session, int section, UniqueAdder& adder) {
+    for (const auto& line : sectionLines(session, section))
+        adder.addField(cols(line, 11, 20));
+}
+
 bool isReachOperation(const std::string& upperWord) {
     return upperWord == "SPLIT FLOW" || upperWord == "BASE FLOW" || upperWord == "REACH LOSS";
 }
@@ -173,8 +179,7 @@ void FillAlternateList(const Session& session, ListControl& List, bool AddBlank)
 
 void FillInputHydrographList(const Session& session, ListControl& List) {
     UniqueAdder adder(List);
-    for (const auto& line : sectionLines(session, InputHydrographSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, InputHydrographSection, adder);
 }
 
 void FillReachList(const Session& session, ListControl& List, bool NoOutlet) {
@@ -210,8 +215,7 @@ void FillHydrographNameList(const Session& session, ListControl& List) {
     for (const auto& line : sectionLines(session, InputHydrographSection))
         if (!cols(line, 11, 20).empty())
             adder.addField(cols(line, 31, 40));
-    for (const auto& line : sectionLines(session, StormSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, StormSection, adder);
 }
 
 void FillStormRainList(const Session& session, RainfallTable& Rainfall, ListControl& List) {
@@ -257,8 +261,7 @@ void FillRainTableList(const Session& session, bool AddStandard, ListControl& Li
     if (AddStandard)
         for (const auto& name : StandardRainTables)
             adder.addStraight(name);
-    for (const auto& line : sectionLines(session, RainfallDistributionSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, RainfallDistributionSection, adder);
     std::unordered_set<std::string> standard;
     for (const auto& name : StandardRainTables)
         standard.insert(toUpper(name));
@@ -271,8 +274,7 @@ void FillRainTableList(const Session& session, bool AddStandard, ListControl& Li
 
 void FillStructureList(const Session& session, ListControl& List) {
     UniqueAdder adder(List);
-    for (const auto& line : sectionLines(session, StructureSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, StructureSection, adder);
     for (const auto& line : sectionLines(session, ReachSection)) {
         const std::string name = cols(line, 11, 20);
         const std::string structure = cols(line, 41, 50);
@@ -283,15 +285,13 @@ void FillStructureList(const Session& session, ListControl& List) {
 
 void FillAreaReachList(const Session& session, ListControl& List) {
     UniqueAdder adder(List);
-    for (const auto& line : sectionLines(session, SubAreaSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, SubAreaSection, adder);
     walkAlternateLists(sectionLines(session, AlternateSection), AlternateList::Areas, adder);
 }
 
 void FillCrossSectionList(const Session& session, ListControl& List) {
     UniqueAdder adder(List);
-    for (const auto& line : sectionLines(session, CrossSectionSection))
-        adder.addField(cols(line, 11, 20));
+    addNamesOf(session, CrossSectionSection, adder);
     for (const auto& line : sectionLines(session, ReachSection)) {
         const std::string name = cols(line, 11, 20);
         if (!name.empty()) {

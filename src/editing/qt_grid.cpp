@@ -9,7 +9,7 @@ namespace brooklet {
 // Notes the row under the mouse at each press on the table.
 class QtGrid::MouseWatcher : public QObject {
 public:
-    explicit MouseWatcher(QtGrid& grid) : grid_(grid) {}
+    MouseWatcher(QtGrid& grid, QObject* parent) : QObject(parent), grid_(grid) {}
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
@@ -24,11 +24,11 @@ private:
     QtGrid& grid_;
 };
 
-QtGrid::QtGrid(QTableWidget* table) : table_(table), watcher_(std::make_unique<MouseWatcher>(*this)) {
+QtGrid::QtGrid(QTableWidget* table) : table_(table), watcher_(new MouseWatcher(*this, table->viewport())) {
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setAutoScroll(false);
     table_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    table_->viewport()->installEventFilter(watcher_.get());
+    table_->viewport()->installEventFilter(watcher_);
     if (table_->currentRow() >= 0)
         row_ = table_->currentRow();
     if (table_->currentColumn() >= 0)
@@ -36,7 +36,7 @@ QtGrid::QtGrid(QTableWidget* table) : table_(table), watcher_(std::make_unique<M
 }
 
 QtGrid::~QtGrid() {
-    table_->viewport()->removeEventFilter(watcher_.get());
+    delete watcher_.data();
 }
 
 int QtGrid::Row() const {

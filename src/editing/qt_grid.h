@@ -5,10 +5,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QObject>
+#include <QPointer>
 #include <QTableWidget>
 
 #include <functional>
-#include <memory>
 
 #include "editing/grid_control.h"
 #include "editing/widgets.h"
@@ -53,7 +53,8 @@ private:
     int mouseRow_ = 0;
     int row_ = 0;
     int col_ = 0;
-    std::unique_ptr<MouseWatcher> watcher_;
+    // Owned by the table's viewport, so that it goes with the table; dropped with the adapter.
+    QPointer<MouseWatcher> watcher_;
 };
 
 // The character code a key press gives the grid routines: Backspace 8, Tab 9, Enter 13, a typed

@@ -23,6 +23,26 @@ void sizeAlternateCounts(WatershedTables& tables, int alternates) {
     tables.AlternateReachCount.resize(size, 0);
 }
 
+// A new entry behind the alternate's others, every field empty. When it lies beyond the row
+// bound, every alternate gets the larger bound.
+int addAlternateEntry(TextArray3D& store, int& count, int alternate) {
+    const int row = ++count;
+    if (row > store.n3())
+        RedimPreserve3D(store, store.n1(), store.n2(), row);
+    for (int field = 1; field <= store.n1(); ++field)
+        store.set(field, alternate, row, std::string());
+    return row;
+}
+
+// Land use records first..last go to the same positions of the other store, which grows to hold
+// them.
+void copyLandUse(const TextTable& from, TextTable& to, int first, int last) {
+    to.ensureRows(last);
+    for (int position = first; position <= last && position <= from.rows(); ++position)
+        for (int field = 1; field <= LandUseFields; ++field)
+            to(field, position) = from(field, position);
+}
+
 } // namespace
 
 // TextArray3D
@@ -176,10 +196,7 @@ bool loadSubAreasFromAlternate(WatershedTables& tables, int CurrentAlternate) {
         tables.LandUseLast[size_t(row)] = last;
         if (first <= 0)
             continue;
-        tables.LandUseStore.ensureRows(last);
-        for (int position = first; position <= last && position <= tables.AlternateLandUse.rows(); ++position)
-            for (int field = 1; field <= LandUseFields; ++field)
-                tables.LandUseStore(field, position) = tables.AlternateLandUse(field, position);
+        copyLandUse(tables.AlternateLandUse, tables.LandUseStore, first, last);
     }
     return true;
 }
@@ -200,10 +217,7 @@ bool storeSubAreasInAlternate(WatershedTables& tables, int CurrentAlternate) {
         store.set(AlternateLandUseLastField, CurrentAlternate, row, std::to_string(last));
         if (first <= 0)
             continue;
-        tables.AlternateLandUse.ensureRows(last);
-        for (int position = first; position <= last && position <= tables.LandUseStore.rows(); ++position)
-            for (int field = 1; field <= LandUseFields; ++field)
-                tables.AlternateLandUse(field, position) = tables.LandUseStore(field, position);
+        copyLandUse(tables.LandUseStore, tables.AlternateLandUse, first, last);
     }
     return true;
 }
@@ -271,27 +285,18 @@ int addAlternate(WatershedTables& tables, const std::string& name, const std::st
 int addAlternateSubArea(WatershedTables& tables, int alternate) {
     if (!validAlternate(tables, alternate))
         return 0;
-    auto& store = tables.AlternateSubAreas;
-    const int row = ++tables.AlternateSubAreaCount[size_t(alternate)];
-    if (row > store.n3())
-        RedimPreserve3D(store, AlternateSubAreaFields, store.n2(), row);
-    for (int field = 1; field <= SubAreaFields; ++field)
-        store.set(field, alternate, row, std::string());
-    store.set(AlternateLandUseFirstField, alternate, row, "0");
-    store.set(AlternateLandUseLastField, alternate, row, "0");
+    const int row = addAlternateEntry(tables.AlternateSubAreas,
+                                      tables.AlternateSubAreaCount[size_t(alternate)], alternate);
+    tables.AlternateSubAreas.set(AlternateLandUseFirstField, alternate, row, "0");
+    tables.AlternateSubAreas.set(AlternateLandUseLastField, alternate, row, "0");
     return row;
 }
 
 int addAlternateReach(WatershedTables& tables, int alternate) {
     if (!validAlternate(tables, alternate))
         return 0;
-    auto& store = tables.AlternateReaches;
-    const int row = ++tables.AlternateReachCount[size_t(alternate)];
-    if (row > store.n3())
-        RedimPreserve3D(store, ReachFields, store.n2(), row);
-    for (int field = 1; field <= ReachFields; ++field)
-        store.set(field, alternate, row, std::string());
-    return row;
+    return addAlternateEntry(tables.AlternateReaches, tables.AlternateReachCount[size_t(alternate)],
+                             alternate);
 }
 
 int addAlternateLandUse(WatershedTables& tables, int alternate, int entry, const std::string& name,

@@ -165,6 +165,18 @@ TEST(QtGrid, RowsCellsAndTheTopRow) {
     EXPECT_EQ(grid.MouseRow(), 14);
 }
 
+TEST(QtGrid, TheAdapterMayOutliveItsTable) {
+    auto* table = new QTableWidget(2, 2);
+    {
+        QtGrid grid(table);
+        delete table;
+    }
+    QTableWidget kept(2, 2);
+    { QtGrid grid(&kept); }
+    QTest::mousePress(kept.viewport(), Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(kept.viewport()->children().size(), 0);
+}
+
 TEST(QtBoxes, BoxesOfARowGridTakeTextAndColour) {
     QLineEdit elevation, discharge;
     ControlArray<QLineEdit> boxes;
