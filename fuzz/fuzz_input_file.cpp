@@ -27,6 +27,9 @@ const brooklet::Session& folder() {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     brooklet::Session session = folder();
+    // Each load adds the land uses it brings to the local land use file; start each input afresh
+    // so the file does not grow over the run.
+    brooklet::deleteFile(session.LocalLandUseFile);
     session.CurrentFile = session.ProgramFolder + "fuzz.inp";
     brooklet::writeFileAtomically(session.CurrentFile,
                                   std::string(reinterpret_cast<const char*>(data), size));

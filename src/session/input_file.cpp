@@ -1,6 +1,7 @@
 #include "session/input_file.h"
 
 #include "editing/numbers.h"
+#include "network/local_land_use.h"
 
 #include <vector>
 
@@ -83,7 +84,12 @@ LoadResult LoadInputFile(Session& session) {
         if (complete) break;
     }
 
-    if (!session.isUntitled()) WriteFileNameWorkFile(session);
+    if (!session.isUntitled()) {
+        WriteFileNameWorkFile(session);
+        // The land uses the file brings along stay known to the local land use file.
+        bool changed = false;
+        MergeLocalLandUse(session, changed);
+    }
     return result;
 }
 
@@ -123,6 +129,8 @@ void AppendReformattedSections(const Session& session) {
 }
 
 SaveResult SaveInputFile(Session& session) {
+    // The saved file carries the local land uses that its land use records name.
+    BuildLocalLandUseSection(session);
     std::string joined;
     for (int section : SaveOrder) {
         auto bytes = readFileBytes(session.WorkFilePath[section]);

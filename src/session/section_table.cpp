@@ -80,6 +80,7 @@ void StartSession(Session& session, const std::string& startFolder) {
         session.SectionTable[i] = Headers[i];
     for (int i = 1; i <= ResultExtensionCount; ++i)
         session.ResultExtension[i] = Extensions[i];
+    LoadStandardLandUse(session.StandardLandUse);
 }
 
 void ClearWorkFiles(const Session& session) {
