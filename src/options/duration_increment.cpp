@@ -2,12 +2,11 @@
 
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
+#include "options/option_record.h"
 
 namespace brooklet {
 namespace {
 
-constexpr int HeaderWidth = 40;
-constexpr int FieldWidth = 10;
 const char* const Header = "DURATION INCREMENT:";
 
 // The first column of the duration in box Index: 51, 61, 71.
@@ -22,9 +21,9 @@ DurationIncrementRecord ReadDurationIncrementSection(const std::vector<std::stri
     if (lines.empty())
         return record;
     const std::string& line = lines.front();
-    record.Days = toUpper(FieldAt(line, 41, FieldWidth)) == "DAYS";
+    record.Days = toUpper(FieldAt(line, 41, OptionFieldWidth)) == "DAYS";
     for (int box = FirstDurationBox; box <= LastDurationBox; ++box)
-        record.duration(box) = FieldAt(line, durationColumn(box), FieldWidth);
+        record.duration(box) = FieldAt(line, durationColumn(box), OptionFieldWidth);
     return record;
 }
 
@@ -34,11 +33,10 @@ std::vector<std::string> WriteDurationIncrementSection(const DurationIncrementRe
         allBlank = allBlank && trim(duration).empty();
     if (allBlank)
         return {};
-    std::string line;
-    AppendField(line, Header, HeaderWidth, false);
-    AppendField(line, record.Days ? "Days" : "Hours", FieldWidth, false);
+    std::string line = OptionHeaderLine(Header);
+    AppendField(line, record.Days ? "Days" : "Hours", OptionFieldWidth, false);
     for (const std::string& duration : record.Durations)
-        AppendField(line, trim(duration), FieldWidth, true);
+        AppendField(line, trim(duration), OptionFieldWidth, true);
     return {line};
 }
 

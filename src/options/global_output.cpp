@@ -2,12 +2,11 @@
 
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
+#include "options/option_record.h"
 
 namespace brooklet {
 namespace {
 
-constexpr int HeaderWidth = 40;
-constexpr int FieldWidth = 10;
 constexpr int SubAreaCodeColumn = 41;
 constexpr int ReachCodeColumn = 51;
 const char* const Header = "GLOBAL OUTPUT:";
@@ -30,7 +29,7 @@ GlobalOutputRecord ReadGlobalOutputSection(const std::vector<std::string>& lines
         return record;
     const std::string& line = lines[1];
     for (int index = 1; index <= 3; ++index)
-        record.box(index) = FieldAt(line, 1 + 10 * index, FieldWidth);
+        record.box(index) = FieldAt(line, 1 + 10 * index, OptionFieldWidth);
     for (int k = 0; k < SubAreaCodeCount; ++k)
         record.SubAreaCodes[static_cast<size_t>(k)] = codeAt(line, SubAreaCodeColumn + k);
     for (int k = 0; k < ReachCodeCount; ++k)
@@ -49,17 +48,15 @@ std::vector<std::string> WriteGlobalOutputSection(const GlobalOutputRecord& reco
     if (empty)
         return {};
 
-    std::string header;
-    AppendField(header, Header, HeaderWidth, false);
     std::string line;
-    AppendField(line, "", FieldWidth, false);
-    AppendField(line, trim(record.box(1)), FieldWidth, false);
-    AppendField(line, trim(record.box(2)), FieldWidth, true);
-    AppendField(line, trim(record.box(3)), FieldWidth, true);
+    AppendField(line, "", OptionFieldWidth, false);
+    AppendField(line, trim(record.box(1)), OptionFieldWidth, false);
+    AppendField(line, trim(record.box(2)), OptionFieldWidth, true);
+    AppendField(line, trim(record.box(3)), OptionFieldWidth, true);
     appendCodes(line, record.SubAreaCodes);
     AppendField(line, "", ReachCodeColumn - SubAreaCodeColumn - SubAreaCodeCount, false);
     appendCodes(line, record.ReachCodes);
-    return {header, line};
+    return {OptionHeaderLine(Header), line};
 }
 
 } // namespace brooklet

@@ -2,12 +2,11 @@
 
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
+#include "options/option_record.h"
 
 namespace brooklet {
 namespace {
 
-constexpr int HeaderWidth = 40;
-constexpr int FieldWidth = 10;
 const char* const Header = "TIME ANALYSIS:";
 
 struct Row {
@@ -28,11 +27,11 @@ int levelColumn(const Row& row, int box) {
 TimeAnalysisRecord ReadTimeAnalysisSection(const std::vector<std::string>& lines) {
     TimeAnalysisRecord record;
     for (size_t i = 1; i < lines.size(); ++i) {
-        const std::string name = FieldAt(lines[i], 11, FieldWidth);
+        const std::string name = OptionLineName(lines[i]);
         for (const Row& row : Rows)
             if (name == row.Name)
                 for (int box = row.First; box <= row.Last; ++box)
-                    record.box(box) = FieldAt(lines[i], levelColumn(row, box), FieldWidth);
+                    record.box(box) = FieldAt(lines[i], levelColumn(row, box), OptionFieldWidth);
     }
     return record;
 }
@@ -41,17 +40,13 @@ std::vector<std::string> WriteTimeAnalysisSection(const TimeAnalysisRecord& reco
     // A row depends on its first box, as it stands.
     if (record.box(FirstFlowBox).empty() && record.box(FirstElevationBox).empty())
         return {};
-    std::string header;
-    AppendField(header, Header, HeaderWidth, false);
-    std::vector<std::string> lines{header};
+    std::vector<std::string> lines{OptionHeaderLine(Header)};
     for (const Row& row : Rows) {
         if (record.box(row.First).empty())
             continue;
-        std::string line;
-        AppendField(line, "", FieldWidth, false);
-        AppendField(line, row.Name, FieldWidth, false);
+        std::string line = OptionNamedLine(row.Name);
         for (int box = row.First; box <= row.Last; ++box)
-            AppendField(line, trim(record.box(box)), FieldWidth, true);
+            AppendField(line, trim(record.box(box)), OptionFieldWidth, true);
         lines.push_back(line);
     }
     return lines;

@@ -29,17 +29,25 @@ frmTimeA::frmTimeA(AppContext& context, QWidget* parent)
 }
 
 void frmTimeA::buildControls() {
-    addRow(addLabel(0, "Flow"), {});
-    addRow(addLabel(1, "Maximum Flow %:"), {addBox(1, "Maximum Flow %: 1"), addBox(2, "Maximum Flow %: 2"),
-                                            addBox(3, "Maximum Flow %: 3"), addBox(4, "Maximum Flow %: 4")});
-    addRow(addLabel(4, "Elevation"), {});
-    HelpLabel* increment = addLabel(5, "Elevation Increment:");
-    for (int index = FirstElevationBox; index <= LastElevationBox; ++index) {
-        addBox(index, QString("Elevation Increment: %1").arg(index - FirstElevationBox + 1));
-        addUnitLabel(index);
+    for (int index = FirstFlowBox; index <= LastElevationBox; ++index) {
+        const QString row = isFlowBox(index) ? "Maximum Flow %: %1" : "Elevation Increment: %1";
+        addBox(index, row.arg((index - 1) % 4 + 1))->setFixedWidth(90);
     }
-    addRow(increment, {txtInp(5), lblInUnit(5), txtInp(6), lblInUnit(6), txtInp(7), lblInUnit(7), txtInp(8),
-                       lblInUnit(8)});
+    // The unit words beside the elevations; the flows have an empty place of the same width
+    // there, so the boxes of the two rows stand one above the other.
+    const int unitWidth = fontMetrics().horizontalAdvance("  ft  ");
+    std::vector<QWidget*> gaps;
+    for (int index = FirstElevationBox; index <= LastElevationBox; ++index) {
+        addUnitLabel(index)->setFixedWidth(unitWidth);
+        gaps.push_back(new QWidget(this));
+        gaps.back()->setFixedWidth(unitWidth);
+    }
+    addRow(addLabel(0, "Flow"), {});
+    addRow(addLabel(1, "Maximum Flow %:"),
+           {txtInp(1), gaps[0], txtInp(2), gaps[1], txtInp(3), gaps[2], txtInp(4), gaps[3]});
+    addRow(addLabel(4, "Elevation"), {});
+    addRow(addLabel(5, "Elevation Increment:"), {txtInp(5), lblInUnit(5), txtInp(6), lblInUnit(6), txtInp(7),
+                                                 lblInUnit(7), txtInp(8), lblInUnit(8)});
     addButtons("  No Changes   (Close)", "Accept Changes   (Close)");
 }
 

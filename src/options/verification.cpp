@@ -2,12 +2,11 @@
 
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
+#include "options/option_record.h"
 
 namespace brooklet {
 namespace {
 
-constexpr int HeaderWidth = 40;
-constexpr int FieldWidth = 10;
 constexpr int CheckWidth = 2;
 constexpr int FirstCheckColumn = 21;
 const char* const Header = "VERIFICATION:";
@@ -31,7 +30,7 @@ VerificationRecord ReadVerificationSection(const std::vector<std::string>& lines
     VerificationRecord record;
     for (size_t n = 1; n < lines.size(); ++n) {
         const std::string& line = lines[n];
-        const std::string name = toUpper(FieldAt(line, 11, FieldWidth));
+        const std::string name = toUpper(OptionLineName(line));
         for (const Group& group : Groups) {
             if (name != group.Name)
                 continue;
@@ -57,13 +56,9 @@ std::vector<std::string> WriteVerificationSection(const VerificationRecord& reco
         anySet = anySet || isSet(index);
     if (!anySet)
         return {};
-    std::string header;
-    AppendField(header, Header, HeaderWidth, false);
-    std::vector<std::string> lines{header};
+    std::vector<std::string> lines{OptionHeaderLine(Header)};
     for (const Group& group : Groups) {
-        std::string line;
-        AppendField(line, "", FieldWidth, false);
-        AppendField(line, group.Name, FieldWidth, false);
+        std::string line = OptionNamedLine(group.Name);
         for (int index = group.First; index <= group.Last; ++index)
             AppendField(line, isSet(index) ? "Y" : "", CheckWidth, false);
         if (!trim(line.substr(FirstCheckColumn - 1)).empty())

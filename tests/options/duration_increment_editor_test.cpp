@@ -116,9 +116,7 @@ TEST_F(DurationIncrementEditorTest, OptionsReachedByTheKeyboardHandTheFocusToThe
 
 TEST_F(DurationIncrementEditorTest, GoodDurationsTurnCyanAndTheFocusGoesRoundTheThreeBoxes) {
     open();
-    enter(2, "1");
-    EXPECT_EQ(background(box(2)), AcceptedColour);
-    EXPECT_EQ(focused(), box(3));
+    expectEntered(2, "1", AcceptedColour, 3);
     type(3, "0");
     press(3, Qt::Key_Return);
     EXPECT_EQ(background(box(3)), AcceptedColour);
@@ -196,17 +194,11 @@ TEST_F(DurationIncrementEditorTest, AcceptWritesARedValueAsItStandsAndALongOneWh
 }
 
 TEST_F(DurationIncrementEditorTest, AcceptWithTheThreeBoxesBlankWritesNothingAndTheXGoes) {
-    writeWorkFile({record("Days", "1.", "", "")});
-    main->Form_Activate();
+    startWithSection({record("Days", "1.", "", "")});
     open();
-    EXPECT_EQ(listItem(), "X   Duration Increment:");
     click(option("opt1", 1));
     box(2)->setText("   ");
-    accept();
-    EXPECT_TRUE(fileExists(workFile(3)));
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_TRUE(session().DataChanged);
-    EXPECT_EQ(listItem(), "     Duration Increment:");
+    acceptExpectingEmptySection();
 }
 
 TEST_F(DurationIncrementEditorTest, NoChangesWritesNothing) {
@@ -215,10 +207,7 @@ TEST_F(DurationIncrementEditorTest, NoChangesWritesNothing) {
     open();
     click(option("opt1", 1));
     enter(2, "9");
-    cancel();
-    EXPECT_EQ(workFileBytes(), before);
-    EXPECT_FALSE(session().DataChanged);
-    EXPECT_TRUE(windowClosed());
+    cancelExpectingNothingWritten(before);
 }
 
 // ---- Help --------------------------------------------------------------------------------------

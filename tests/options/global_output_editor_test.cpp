@@ -104,12 +104,8 @@ TEST_F(GlobalOutputEditorTest, ALowerCaseYInACodeColumnCountsAsYes) {
 
 TEST_F(GlobalOutputEditorTest, GoodValuesTurnCyanAndTheFocusGoesRoundTheThreeBoxes) {
     open();
-    enter(1, "3");
-    EXPECT_EQ(background(box(1)), AcceptedColour);
-    EXPECT_EQ(focused(), box(2));
-    enter(2, "0");
-    EXPECT_EQ(background(box(2)), AcceptedColour);
-    EXPECT_EQ(focused(), box(3));
+    expectEntered(1, "3", AcceptedColour, 2);
+    expectEntered(2, "0", AcceptedColour, 3);
     type(3, "0.01");
     press(3, Qt::Key_Enter);
     EXPECT_EQ(background(box(3)), AcceptedColour);
@@ -131,12 +127,8 @@ TEST_F(GlobalOutputEditorTest, ANegativeFlowAndATooSmallTimeIncrementAreRefused)
     open();
     enter(1, "-1");
     EXPECT_EQ(background(box(1)), RefusedColour);
-    enter(2, "-0.5");
-    EXPECT_EQ(background(box(2)), RefusedColour);
-    EXPECT_EQ(focused(), box(2));
-    enter(3, "0.009");
-    EXPECT_EQ(background(box(3)), RefusedColour);
-    EXPECT_EQ(focused(), box(3));
+    expectEntered(2, "-0.5", RefusedColour, 2);
+    expectEntered(3, "0.009", RefusedColour, 3);
 }
 
 TEST_F(GlobalOutputEditorTest, BlankBoxesPassTheirChecks) {
@@ -196,27 +188,19 @@ TEST_F(GlobalOutputEditorTest, OneReachCodeAtYesWithTheBoxesBlankWritesTheSectio
 }
 
 TEST_F(GlobalOutputEditorTest, AllOptionsAtNoAndAllBoxesBlankLeaveTheSectionEmptyAndTheXGoes) {
-    writeWorkFile({Header, "          2         1.        0.5       YNNNN     NNNNNN"});
-    main->Form_Activate();
-    EXPECT_EQ(listItem(), "X   Global Output:");
+    startWithSection({Header, "          2         1.        0.5       YNNNN     NNNNNN"});
     open();
     click(option("Opt1", 1));
     for (int index = 1; index <= 3; ++index)
         box(index)->clear();
-    accept();
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_TRUE(session().DataChanged);
-    EXPECT_EQ(listItem(), "     Global Output:");
+    acceptExpectingEmptySection();
 }
 
 TEST_F(GlobalOutputEditorTest, NoChangesWritesNothing) {
     open();
     click(option("Opt1", 0));
     enter(1, "1");
-    cancel();
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_FALSE(session().DataChanged);
-    EXPECT_TRUE(windowClosed());
+    cancelExpectingNothingWritten("");
 }
 
 TEST_F(GlobalOutputEditorTest, AcceptedCodesComeBackOnTheNextOpening) {

@@ -75,6 +75,13 @@ protected:
         type(index, text);
         press(index, Qt::Key_Tab);
     }
+    // Types into a box, leaves it with Tab, and states the colour the box took and the box that
+    // has the focus then.
+    void expectEntered(int index, const QString& text, Rgb colour, int focusedBox) {
+        enter(index, text);
+        EXPECT_EQ(background(box(index)), colour) << "box " << index << ": " << text.toStdString();
+        EXPECT_EQ(focused(), box(focusedBox)) << "box " << index << ": " << text.toStdString();
+    }
     void click(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(4, 4)); }
     void accept() { click(button("cmdFinished")); }
     void cancel() { click(button("cmdCancel")); }
@@ -86,6 +93,29 @@ protected:
 
     void writeWorkFile(const std::vector<std::string>& lines) { writeBytes(workFile(section_), crlf(lines)); }
     std::string workFileBytes() { return bytesOf(workFile(section_)); }
+    // A work file with content, marked with its X in the main list.
+    void startWithSection(const std::vector<std::string>& lines) {
+        writeWorkFile(lines);
+        main->Form_Activate();
+        EXPECT_EQ(listItem(), "X   " + session().SectionTable[section_]);
+    }
+    // Accepts, and states that the section is left empty: its work file stays, empty, and the
+    // X goes from the main list.
+    void acceptExpectingEmptySection() {
+        accept();
+        EXPECT_TRUE(fileExists(workFile(section_)));
+        EXPECT_EQ(workFileBytes(), "");
+        EXPECT_TRUE(session().DataChanged);
+        EXPECT_EQ(listItem(), "     " + session().SectionTable[section_]);
+    }
+    // "No Changes": the work file stays as it was before the window opened, and DataChanged
+    // stays False.
+    void cancelExpectingNothingWritten(const std::string& before) {
+        cancel();
+        EXPECT_EQ(workFileBytes(), before);
+        EXPECT_FALSE(session().DataChanged);
+        EXPECT_TRUE(windowClosed());
+    }
     QListWidget* sectionList() { return control<QListWidget>(main, "CurrentLst"); }
     // The text of the window's section in the main list, with its X when it has content.
     std::string listItem() { return toBytes(sectionList()->item(section_ - 1)->text()); }

@@ -84,34 +84,22 @@ TEST_F(TimeAnalysisEditorTest, ALineWhoseNameIsNotExactlyFlowIsPassedOver) {
 
 TEST_F(TimeAnalysisEditorTest, AHundredPassesForAPercentageAndJustAboveOrBelowTheRangeDoNot) {
     open();
-    enter(1, "100");
-    EXPECT_EQ(background(box(1)), AcceptedColour);
-    EXPECT_EQ(focused(), box(2));
-    enter(2, "100.01");
-    EXPECT_EQ(background(box(2)), RefusedColour);
-    EXPECT_EQ(focused(), box(2));
+    expectEntered(1, "100", AcceptedColour, 2);
+    expectEntered(2, "100.01", RefusedColour, 2);
     box(2)->clear();
     enter(2, "0.0009");
     EXPECT_EQ(background(box(2)), RefusedColour);
     EXPECT_EQ(window->focusMovedTo(), 2);
     box(2)->clear();
-    enter(2, "0.001");
-    EXPECT_EQ(background(box(2)), AcceptedColour);
-    EXPECT_EQ(focused(), box(3));
+    expectEntered(2, "0.001", AcceptedColour, 3);
 }
 
 TEST_F(TimeAnalysisEditorTest, AnElevationIncrementMustBeAboveZero) {
     open();
-    enter(5, "0");
-    EXPECT_EQ(background(box(5)), RefusedColour);
-    EXPECT_EQ(focused(), box(5));
+    expectEntered(5, "0", RefusedColour, 5);
     box(5)->clear();
-    enter(5, "0.1");
-    EXPECT_EQ(background(box(5)), AcceptedColour);
-    EXPECT_EQ(focused(), box(6));
-    enter(6, "abc");
-    EXPECT_EQ(background(box(6)), RefusedColour);
-    EXPECT_EQ(focused(), box(6));
+    expectEntered(5, "0.1", AcceptedColour, 6);
+    expectEntered(6, "abc", RefusedColour, 6);
 }
 
 TEST_F(TimeAnalysisEditorTest, ARefusedFirstBoxKeepsTheFocus) {
@@ -247,15 +235,10 @@ TEST_F(TimeAnalysisEditorTest, AThirdBoxFilledWhileTheFirstIsBlankWritesNoFlowLi
 }
 
 TEST_F(TimeAnalysisEditorTest, BothFirstBoxesEmptyWriteNothingAndTheXGoes) {
-    writeWorkFile({Header, row("FLOW", {"10."})});
-    main->Form_Activate();
-    EXPECT_EQ(listItem(), "X   Time Analysis:");
+    startWithSection({Header, row("FLOW", {"10."})});
     open();
     box(1)->clear();
-    accept();
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_TRUE(session().DataChanged);
-    EXPECT_EQ(listItem(), "     Time Analysis:");
+    acceptExpectingEmptySection();
 }
 
 TEST_F(TimeAnalysisEditorTest, AcceptWritesRedValuesAsTheyStand) {
@@ -271,9 +254,7 @@ TEST_F(TimeAnalysisEditorTest, NoChangesWritesNothing) {
     const std::string before = workFileBytes();
     open();
     enter(2, "20");
-    cancel();
-    EXPECT_EQ(workFileBytes(), before);
-    EXPECT_FALSE(session().DataChanged);
+    cancelExpectingNothingWritten(before);
 }
 
 // ---- Help --------------------------------------------------------------------------------------

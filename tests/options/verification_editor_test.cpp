@@ -48,59 +48,29 @@ TEST_F(VerificationEditorTest, ShowsALabelledCheckForEveryTraceAndNoneForTheRese
     EXPECT_EQ(window->windowTitle(), "Verification   Current File - > Untitled <");
     EXPECT_EQ(session().HelpCode, "VE");
     EXPECT_EQ(window->design().Section, 14);
-    const std::map<int, QString> labels = {
-        {1, "Alternates Read"},
-        {2, "Dimensionless Unit  Hydrograph Read"},
-        {3, "Duration Increment Read"},
-        {4, "Global Output Read"},
-        {5, "Input Hydrographs Read"},
-        {6, "Rainfall Distributions Read"},
-        {7, "Runoff Curve Numbers Read"},
-        {8, "Stream Cross Sections Read"},
-        {9, "Stream Reaches Read"},
-        {10, "Storm Analysis Read"},
-        {11, "Structure Ratings Read"},
-        {12, "Sub-Areas Read"},
-        {13, "Time Analysis Read"},
-        {14, "Brooklet Run Identifier Read"},
-        {15, "Verification  Read"},
-        {21, "Storms and Rain Gage Combinations"},
-        {22, "Sub-Area Tc Computations"},
-        {23, "Sub-Area CN Computations"},
-        {24, "Unique Sub-Area List"},
-        {25, "Unique Reach List"},
-        {26, "Cross Section Rating Table"},
-        {27, "Array Indexes / Reference Identifiers"},
-        {28, "Rainfall Distributions Used"},
-        {29, "Reservoir Emptying Time"},
-        {31, "Upstream Reach Components"},
-        {32, "Number of Hydrographs"},
-        {33, "Watershed  Analysis Steps"},
-        {34, "Non-circular Reach Flow Path"},
-        {35, "Alternate Update"},
-        {36, "Hydrograph Generation"},
-        {37, "Hydrograph Channel Routing"},
-        {38, "Hydrograph Structure Routing"},
-        {39, "Hydrograph Addition"},
-        {40, "Hydrograph Flow Splitting"},
-        {41, "Flow Duration Computations"},
-    };
     for (int index = 0; index <= 42; ++index) {
         auto* box = window->findChild<QCheckBox*>(indexedName("Check1", index));
         auto* text = window->findChild<QLabel*>(indexedName("lblInput", index));
-        const auto label = labels.find(index);
-        if (label == labels.end()) {
+        if (!isCheck(index)) {
             EXPECT_EQ(box, nullptr) << index;
             EXPECT_EQ(text, nullptr) << index;
             continue;
         }
         ASSERT_NE(box, nullptr) << index;
         ASSERT_NE(text, nullptr) << index;
-        EXPECT_EQ(text->text(), label->second) << index;
-        EXPECT_EQ(box->accessibleName(), label->second) << index;
+        EXPECT_EQ(box->accessibleName(), text->text()) << index;
         EXPECT_FALSE(box->isChecked()) << index;
         EXPECT_TRUE(box->isVisible()) << index;
     }
+    // Every label is the title of its help entry (see the help test below), some with two
+    // blanks inside.
+    EXPECT_EQ(label(1)->text(), "Alternates Read");
+    EXPECT_EQ(label(2)->text(), "Dimensionless Unit  Hydrograph Read");
+    EXPECT_EQ(label(15)->text(), "Verification  Read");
+    EXPECT_EQ(label(21)->text(), "Storms and Rain Gage Combinations");
+    EXPECT_EQ(label(27)->text(), "Array Indexes / Reference Identifiers");
+    EXPECT_EQ(label(33)->text(), "Watershed  Analysis Steps");
+    EXPECT_EQ(label(41)->text(), "Flow Duration Computations");
     for (int head = 1; head <= 3; ++head)
         EXPECT_EQ(element<QLabel>("lblStatic", head)->text(), "Yes") << head;
     EXPECT_EQ(control<QLabel>(window, "lblHeader")->text(), "Verification:");
@@ -176,15 +146,11 @@ TEST_F(VerificationEditorTest, AYesAtAReservedPlaceIsDroppedAndItsColumnKept) {
 }
 
 TEST_F(VerificationEditorTest, AClickClearsACheckAgainAndNoCheckWritesNothing) {
-    writeWorkFile({Header, DataPrep + fields(1, 30, {5}), ""});
-    main->Form_Activate();
-    EXPECT_EQ(listItem(), "X   Verification:");
+    startWithSection({Header, DataPrep + fields(1, 30, {5}), ""});
     open();
     click(check(5));
     EXPECT_FALSE(check(5)->isChecked());
-    accept();
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_EQ(listItem(), "     Verification:");
+    acceptExpectingEmptySection();
 }
 
 TEST_F(VerificationEditorTest, TheChecksAreSetFromTheKeyboard) {
@@ -198,10 +164,7 @@ TEST_F(VerificationEditorTest, TheChecksAreSetFromTheKeyboard) {
 TEST_F(VerificationEditorTest, NoChangesWritesNothing) {
     open();
     click(check(9));
-    cancel();
-    EXPECT_EQ(workFileBytes(), "");
-    EXPECT_FALSE(session().DataChanged);
-    EXPECT_TRUE(windowClosed());
+    cancelExpectingNothingWritten("");
 }
 
 // ---- Help --------------------------------------------------------------------------------------
