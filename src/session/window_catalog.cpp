@@ -1,6 +1,8 @@
 #include "session/window_catalog.h"
 
 #include "editing/help_windows.h"
+#include "network/local_land_use_editor.h"
+#include "network/local_soil_editor.h"
 #include "options/duration_increment_editor.h"
 #include "options/global_output_editor.h"
 #include "options/identifier_editor.h"
@@ -22,6 +24,9 @@ void registerAllWindows(WindowHost& windows) {
     for (const QString& name : TextHelpWindow::names())
         windows.registerWindow(name, [name](AppContext&) { return new TextHelpWindow(name); });
     windows.registerWindow("frmFileDisp", [](AppContext& context) { return new frmFileDisp(context); });
+    windows.registerWindow("frmLocalLanduse", [](AppContext& context) { return new frmLocalLanduse(context); });
+    windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
+    windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
 }
 
 } // namespace brooklet
