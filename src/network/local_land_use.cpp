@@ -13,7 +13,6 @@
 namespace brooklet {
 namespace {
 
-constexpr size_t LandUseNameLength = 35;
 constexpr int SectionNameWidth = 50;
 constexpr int SectionValueWidth = 5;
 // A row is kept on Accept when one of its curve numbers reaches this.
@@ -87,13 +86,6 @@ std::vector<std::string> LocalLandUseFileLines(const LocalTable& table) {
     }
     lines.push_back(ClosingRecord);
     return lines;
-}
-
-std::string CutLandUseName(const std::string& Text) {
-    const std::string trimmed = trim(Text);
-    if (trimmed.size() > LandUseNameLength)
-        return trimmed.substr(0, LandUseNameLength);
-    return Text;
 }
 
 bool CurveNumberAccepted(int Index, const std::string& Text, const std::string& PreviousBoxText) {

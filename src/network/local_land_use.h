@@ -38,9 +38,8 @@ std::vector<LandUseRow> ReadLocalLandUseFile(const std::string& Path, BlankName 
 // rows, deleted ones among them, are dropped without a word.
 std::vector<std::string> LocalLandUseFileLines(const LocalTable& table);
 
-// The name box of the local land use window: a trimmed text over 35 characters is cut to its
-// first 35.
-std::string CutLandUseName(const std::string& Text);
+// The longest land use name: it must fit its field in a "LAND AREA" record.
+constexpr size_t LandUseNameLength = 35;
 
 // The check of curve number box Index (2 to 5) of the local land use window: a number from 30
 // to 100 or blank; for boxes 3 to 5 also not below the value of the box before, a blank box

@@ -94,9 +94,7 @@ bool frmLocalLanduse::checkBox(int index) {
     QLineEdit* box = txtInp(index);
     bool valid = true;
     if (index == NameBox) {
-        const QString cut = fromBytes(CutLandUseName(toBytes(box->text())));
-        if (cut != box->text())
-            box->setText(cut);
+        cutShadowBox(LandUseNameLength);
     } else {
         const std::string before = index > 2 ? toBytes(txtInp(index - 1)->text()) : std::string();
         valid = CurveNumberAccepted(index, toBytes(box->text()), before);

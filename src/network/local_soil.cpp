@@ -10,7 +10,6 @@
 namespace brooklet {
 namespace {
 
-constexpr size_t SoilIdentifierLength = 25;
 const char SoilGroupLetters[] = {'A', 'B', 'C', 'D'};
 
 } // namespace
@@ -61,13 +60,6 @@ std::vector<std::string> LocalSoilFileLines(const LocalTable& table) {
     }
     lines.push_back(ClosingRecord);
     return lines;
-}
-
-std::string CutSoilIdentifier(const std::string& Text) {
-    const std::string trimmed = trim(Text);
-    if (trimmed.size() > SoilIdentifierLength)
-        return trimmed.substr(0, SoilIdentifierLength);
-    return Text;
 }
 
 std::vector<std::pair<std::string, std::string>> ReadSoilDisplay(const std::string& Path) {

@@ -33,9 +33,8 @@ std::string SoilGroups(const SoilRow& soil);
 // has a group, quoted, then the closing line. A deleted soil, having no identifier, is dropped.
 std::vector<std::string> LocalSoilFileLines(const LocalTable& table);
 
-// The identifier box of the local soil window: a trimmed text over 25 characters is cut to its
-// first 25.
-std::string CutSoilIdentifier(const std::string& Text);
+// The longest soil identifier.
+constexpr size_t SoilIdentifierLength = 25;
 
 // The soils as the soil display lists them: pairs of identifier and groups as the file holds
 // them, a blank value passed over, in ascending order of the identifier, case not counting.

@@ -114,11 +114,8 @@ const std::string& frmLocalSoil::filePath() const {
     return session.LocalSoilFile;
 }
 
-bool frmLocalSoil::checkBox(int index) {
-    QLineEdit* box = txtInp(index);
-    const QString cut = fromBytes(CutSoilIdentifier(toBytes(box->text())));
-    if (cut != box->text())
-        box->setText(cut);
+bool frmLocalSoil::checkBox(int) {
+    cutShadowBox(SoilIdentifierLength);
     return true;
 }
 
@@ -148,8 +145,13 @@ void frmDisplaySoil::buildControls() {
     // The heads stand in the fixed row above the soils.
     grid->setCellText(0, 0, "Local Soil Identifier");
     grid->setCellText(0, 1, "HSG");
-    for (int col = 0; col < 2; ++col)
-        MSFlexGrid1->item(0, col)->setFlags(Qt::ItemIsEnabled);
+    for (int col = 0; col < 2; ++col) {
+        QTableWidgetItem* head = MSFlexGrid1->item(0, col);
+        head->setFlags(Qt::ItemIsEnabled);
+        QFont bold = head->font();
+        bold.setBold(true);
+        head->setFont(bold);
+    }
     layout->addWidget(MSFlexGrid1);
 
     auto* find = new QHBoxLayout;

@@ -38,6 +38,13 @@ void LocalTable::emptyRow(int row) {
         Rows.fillRow(row, std::string());
 }
 
+std::string CutName(const std::string& Text, size_t Length) {
+    const std::string trimmed = trim(Text);
+    if (trimmed.size() > Length)
+        return trimmed.substr(0, Length);
+    return Text;
+}
+
 FiveTexts LocalTable::row(int row) const {
     FiveTexts texts;
     for (int field = 1; field <= LocalTableFields; ++field)

@@ -36,4 +36,8 @@ struct LocalTable {
     FiveTexts row(int row) const;
 };
 
+// A name box's check: a text whose trim is longer than Length is cut to the first Length
+// characters of its trim; a shorter one stays as typed.
+std::string CutName(const std::string& Text, size_t Length);
+
 } // namespace brooklet

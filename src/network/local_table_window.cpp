@@ -91,6 +91,13 @@ void LocalTableWindow::listCopiesShadow() {
     cmbInp(1)->setEditText(txtInp(1)->text());
 }
 
+void LocalTableWindow::cutShadowBox(size_t Length) {
+    QLineEdit* box = txtInp(1);
+    const QString cut = fromBytes(CutName(toBytes(box->text()), Length));
+    if (cut != box->text())
+        box->setText(cut);
+}
+
 void LocalTableWindow::leaveList() {
     QComboBox* list = cmbInp(1);
     const QString typed = list->currentText();

@@ -67,6 +67,8 @@ protected:
 
     // The list copies the shadow box.
     void listCopiesShadow();
+    // The check of the shadow box: a name whose trim is longer than Length is cut.
+    void cutShadowBox(size_t Length);
     std::string listText() const;
 
     ControlArray<QComboBox> cmbInp;

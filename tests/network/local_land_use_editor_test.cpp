@@ -1,72 +1,32 @@
 // frmLocalLanduse as the user meets it: opened from the File menu, names typed into the list,
 // curve numbers typed and tabbed through, entries deleted through the question, accepted and
 // cancelled, with the local land use file, colours, focus and the list checked after each step.
-#include "support/ui_fixture.h"
+#include "local_window_fixture.h"
 
 #include "editing/help_view.h"
 #include "network/local_land_use_editor.h"
 #include "session/text_file.h"
 
-#include "../editing/colour_printing.h"
-
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTest>
 
 namespace brooklet::test {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 const std::string LotAndYard =
     "\"Lot\",\"70\",\"75\",\"80\",\"85\"\r\n\"Yard\",\"\",\"61\",\"74\",\"80\"\r\n\"\"\r\n";
 const BoxRequest DeleteQuestion{"Delete Current Local Land Use Data ?", "Local Land Use", BoxButtons::YesNo,
                                 BoxIcon::Question};
 
-class LocalLandUseEditorTest : public UiTest {
+class LocalLandUseEditorTest : public LocalWindowTest<frmLocalLanduse> {
 protected:
-    void SetUp() override { startMain(); }
+    LocalLandUseEditorTest() : LocalWindowTest("frmLocalLanduse") {}
 
-    frmLocalLanduse* open() {
-        window = qobject_cast<frmLocalLanduse*>(context->windows.ShowWindowAtOrigin("frmLocalLanduse"));
-        EXPECT_NE(window, nullptr);
-        if (window) {
-            window->activateWindow();
-            QApplication::setActiveWindow(window);
-        }
-        return window;
-    }
-    bool windowClosed() {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return context->windows.loaded("frmLocalLanduse") == nullptr;
-    }
-
-    QComboBox* list() { return control<QComboBox>(window, "cmbInp(1)"); }
-    QLineEdit* box(int index) { return control<QLineEdit>(window, indexedName("txtInp", index)); }
-    QPushButton* button(const char* name) { return control<QPushButton>(window, name); }
-    QWidget* focused() { return QApplication::focusWidget(); }
-    Texts listItems() {
-        Texts items;
-        for (int i = 0; i < list()->count(); ++i)
-            items.push_back(toBytes(list()->itemText(i)));
-        return items;
-    }
     Texts boxTexts() {
         Texts texts;
         for (int index = 1; index <= 5; ++index)
             texts.push_back(toBytes(box(index)->text()));
         return texts;
-    }
-
-    // Types a name into the list and presses Enter there.
-    void enterName(const QString& name) {
-        list()->setFocus();
-        list()->setEditText(QString());
-        QTest::keyClicks(list(), name);
-        QTest::keyClick(list(), Qt::Key_Return);
     }
     // Types into a box that has the focus, then presses the key.
     void typeAndPress(int index, const QString& text, Qt::Key key = Qt::Key_Tab) {
@@ -74,13 +34,8 @@ protected:
         QTest::keyClicks(box(index), text);
         QTest::keyClick(box(index), key);
     }
-    void click(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(4, 4)); }
-    void accept() { click(button("cmdFinished")); }
-
     void localFile(const std::string& bytes) { writeBytes(session().LocalLandUseFile, bytes); }
     std::string localFileBytes() { return bytesOf(session().LocalLandUseFile); }
-
-    frmLocalLanduse* window = nullptr;
 };
 
 // ---- Opening and load --------------------------------------------------------------------------

@@ -151,12 +151,6 @@ TEST(CurveNumberCheckTest, ABlankBoxCountsAsZero) {
     EXPECT_TRUE(CurveNumberAccepted(3, "", ""));
 }
 
-TEST(LandUseNameTest, ATrimmedNameOver35CharactersIsCutTo35) {
-    EXPECT_EQ(CutLandUseName(std::string(35, 'x')), std::string(35, 'x'));
-    EXPECT_EQ(CutLandUseName("  " + std::string(36, 'y') + "  "), std::string(35, 'y'));
-    EXPECT_EQ(CutLandUseName("  Lot  "), "  Lot  ");
-}
-
 // ---- the merge after a load ---------------------------------------------------------------------
 
 TEST(MergedLandUseLineTest, TheNameQuotedThenTwoCommasAndTheFourTexts) {

@@ -1,59 +1,26 @@
 // frmLocalSoil and frmDisplaySoil as the user meets them: soils typed into the list, groups
 // ticked, soils deleted through the question and accepted; the sorted display with its find box.
-#include "support/ui_fixture.h"
+#include "local_window_fixture.h"
 
 #include "editing/qt_grid.h"
 #include "network/local_soil_editor.h"
 #include "session/text_file.h"
 
-#include "../editing/colour_printing.h"
-
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTableWidget>
-#include <QTest>
 
 namespace brooklet::test {
 namespace {
 
-using Texts = std::vector<std::string>;
-
 const std::string ThreeSoils =
     "\"Sandy loam\",\"A/D\"\r\n\"Clay\",\"D\"\r\n\"Silt loam\",\"B/C\"\r\n\"\"\r\n";
 
-class SoilWindowTest : public UiTest {
+class LocalSoilEditorTest : public LocalWindowTest<frmLocalSoil> {
 protected:
-    void SetUp() override { startMain(); }
+    LocalSoilEditorTest() : LocalWindowTest("frmLocalSoil") {}
 
-    template <typename T> T* open(const QString& name) {
-        auto* opened = qobject_cast<T*>(context->windows.ShowWindowAtOrigin(name));
-        EXPECT_NE(opened, nullptr);
-        if (opened) {
-            opened->activateWindow();
-            QApplication::setActiveWindow(opened);
-        }
-        return opened;
-    }
-    bool closed(const QString& name) {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return context->windows.loaded(name) == nullptr;
-    }
-    void click(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(4, 4)); }
-    QWidget* focused() { return QApplication::focusWidget(); }
-    void soilFile(const std::string& bytes) { writeBytes(session().LocalSoilFile, bytes); }
-    std::string soilFileBytes() { return bytesOf(session().LocalSoilFile); }
-};
-
-class LocalSoilEditorTest : public SoilWindowTest {
-protected:
-    frmLocalSoil* open() { return window = SoilWindowTest::open<frmLocalSoil>("frmLocalSoil"); }
-
-    QComboBox* list() { return control<QComboBox>(window, "cmbInp(1)"); }
     QCheckBox* check(int group) { return control<QCheckBox>(window, indexedName("Check1", group)); }
-    QPushButton* button(const char* name) { return control<QPushButton>(window, name); }
     // The groups ticked, as letters.
     std::string ticked() {
         std::string letters;
@@ -62,21 +29,8 @@ protected:
                 letters += char('A' + group - 2);
         return letters;
     }
-    Texts listItems() {
-        Texts items;
-        for (int i = 0; i < list()->count(); ++i)
-            items.push_back(toBytes(list()->itemText(i)));
-        return items;
-    }
-    void enterName(const QString& name) {
-        list()->setFocus();
-        list()->setEditText(QString());
-        QTest::keyClicks(list(), name);
-        QTest::keyClick(list(), Qt::Key_Return);
-    }
-    void accept() { click(button("cmdFinished")); }
-
-    frmLocalSoil* window = nullptr;
+    void soilFile(const std::string& bytes) { writeBytes(session().LocalSoilFile, bytes); }
+    std::string soilFileBytes() { return bytesOf(session().LocalSoilFile); }
 };
 
 TEST_F(LocalSoilEditorTest, TheFileMenuOpensTheWindow) {
@@ -126,11 +80,11 @@ TEST_F(LocalSoilEditorTest, ASoilWithDSlashAIsShownWithAAndDTickedAndComesBackAs
     open();
     enterName("Peat");
     EXPECT_EQ(ticked(), "AD");
-    EXPECT_EQ(control<QLineEdit>(window, "txtInp(1)")->text(), "Peat");
+    EXPECT_EQ(box(1)->text(), "Peat");
     // Tab or Enter sends the focus back to the list: it is the one field.
     EXPECT_EQ(focused(), list());
     accept();
-    EXPECT_TRUE(closed("frmLocalSoil"));
+    EXPECT_TRUE(windowClosed());
     EXPECT_EQ(soilFileBytes(), "\"Peat\",\"A/D\"\r\n\"\"\r\n");
 }
 
@@ -174,14 +128,14 @@ TEST_F(LocalSoilEditorTest, TicksAreStoredWhenAnotherSoilIsPicked) {
     EXPECT_EQ(ticked(), "BC");
     EXPECT_EQ(window->LocalSoil.row(2), (FiveTexts{"Clay", "", "", "C", "D"}));
     click(button("cmdCancel"));
-    EXPECT_TRUE(closed("frmLocalSoil"));
+    EXPECT_TRUE(windowClosed());
     EXPECT_EQ(soilFileBytes(), ThreeSoils);
 }
 
 TEST_F(LocalSoilEditorTest, ALongIdentifierIsCutTo25Characters) {
     open();
     enterName(QString(25, 's') + "ilt");
-    EXPECT_EQ(control<QLineEdit>(window, "txtInp(1)")->text(), QString(25, 's'));
+    EXPECT_EQ(box(1)->text(), QString(25, 's'));
 }
 
 TEST_F(LocalSoilEditorTest, DeletingASoilAsksUnderTheDefaultTitle) {
@@ -225,10 +179,11 @@ TEST_F(LocalSoilEditorTest, WithoutAFileTheListIsEmptyAndAcceptWritesTheClosingL
 
 // ---- frmDisplaySoil ----------------------------------------------------------------------------
 
-class DisplaySoilTest : public SoilWindowTest {
+class DisplaySoilTest : public WindowTest {
 protected:
+    void soilFile(const std::string& bytes) { writeBytes(session().LocalSoilFile, bytes); }
     frmDisplaySoil* open() {
-        window = SoilWindowTest::open<frmDisplaySoil>("frmDisplaySoil");
+        window = openWindow<frmDisplaySoil>("frmDisplaySoil");
         if (window)
             table = control<QTableWidget>(window, "MSFlexGrid1");
         return window;

@@ -78,12 +78,6 @@ TEST(LocalSoilFileLinesTest, WritesSoilsWithAGroupAndTheClosingLine) {
     EXPECT_EQ(LocalSoilFileLines(table), Lines{"\"\""});
 }
 
-TEST(SoilIdentifierTest, ATrimmedIdentifierOver25CharactersIsCutTo25) {
-    EXPECT_EQ(CutSoilIdentifier(std::string(25, 's')), std::string(25, 's'));
-    EXPECT_EQ(CutSoilIdentifier(" " + std::string(30, 't')), std::string(25, 't'));
-    EXPECT_EQ(CutSoilIdentifier(" Loam "), " Loam ");
-}
-
 TEST_F(LocalSoilTest, TheDisplayListsPairsSortedCaseNotCounting) {
     soilFile(
         "\"silt\",\"B\"\r\n\"Clay\",\"D\"\r\n\"  \"\r\n\"clay loam\",\"c/d\"\r\n\"Adobe\",\"D\"\r\n\"\"\r\n");

@@ -51,5 +51,12 @@ TEST(LocalTableTest, ADeletedRowKeepsItsSlot) {
     EXPECT_EQ(table.findLast("Yard"), 2);
 }
 
+TEST(CutNameTest, ANameWhoseTrimIsTooLongIsCutToItsTrimmedStart) {
+    EXPECT_EQ(CutName(std::string(35, 'x'), 35), std::string(35, 'x'));
+    EXPECT_EQ(CutName("  " + std::string(36, 'y') + "  ", 35), std::string(35, 'y'));
+    EXPECT_EQ(CutName("  Lot  ", 35), "  Lot  ");
+    EXPECT_EQ(CutName(" " + std::string(30, 't'), 25), std::string(25, 't'));
+}
+
 } // namespace
 } // namespace brooklet::test
