@@ -1,7 +1,6 @@
 #include "editing/grid_editor.h"
 
 #include "editing/field_checks.h"
-#include "editing/leading_number.h"
 #include "editing/numbers.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #include "editing/identifier_lists.h"
 
 #include "editing/field_checks.h"
-#include "editing/leading_number.h"
 #include "editing/numbers.h"
 #include "session/text_file.h"
 

@@ -39,7 +39,8 @@ std::optional<std::string> plainNumber(const std::string& raw) {
             ++i;
     }
     std::string plain;
-    if (sign == '-') plain += '-';
+    if (sign == '-')
+        plain += '-';
     size_t digits = 0;
     // Whole part: digits, thousands separators only between digits.
     while (i < n) {
@@ -59,17 +60,20 @@ std::optional<std::string> plainNumber(const std::string& raw) {
             ++digits;
         }
     }
-    if (digits == 0) return std::nullopt;
+    if (digits == 0)
+        return std::nullopt;
     if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
         plain += 'E';
         ++i;
-        if (i < n && isSign(text[i])) plain += text[i++];
+        if (i < n && isSign(text[i]))
+            plain += text[i++];
         size_t exponentDigits = 0;
         while (i < n && isDigit(text[i])) {
             plain += text[i++];
             ++exponentDigits;
         }
-        if (exponentDigits == 0) return std::nullopt;
+        if (exponentDigits == 0)
+            return std::nullopt;
     }
     if (i < n && text[i] == '$' && !currency) {
         currency = true;
@@ -79,10 +83,12 @@ std::optional<std::string> plainNumber(const std::string& raw) {
         ++i;
     // A sign behind the number, when none stood before it.
     if (i < n && isSign(text[i]) && !sign) {
-        if (text[i] == '-') plain.insert(plain.begin(), '-');
+        if (text[i] == '-')
+            plain.insert(plain.begin(), '-');
         ++i;
     }
-    if (i != n) return std::nullopt;
+    if (i != n)
+        return std::nullopt;
     return plain;
 }
 
@@ -100,7 +106,8 @@ std::string trim(const std::string& text) {
 
 std::string toUpper(std::string text) {
     for (char& c : text)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
     return text;
 }
 
@@ -110,25 +117,31 @@ bool isNumericText(const std::string& text) {
 
 std::optional<double> numericValue(const std::string& text) {
     const auto plain = plainNumber(text);
-    if (!plain) return std::nullopt;
+    if (!plain)
+        return std::nullopt;
     errno = 0;
     const double value = std::strtod(plain->c_str(), nullptr);
-    if (errno == ERANGE && std::isinf(value)) return std::nullopt;
-    if (!std::isfinite(value)) return std::nullopt;
+    if (errno == ERANGE && std::isinf(value))
+        return std::nullopt;
+    if (!std::isfinite(value))
+        return std::nullopt;
     return value;
 }
 
 std::optional<float> toSingle(const std::string& text) {
     const auto value = numericValue(text);
-    if (!value || std::fabs(*value) > FLT_MAX) return std::nullopt;
+    if (!value || std::fabs(*value) > FLT_MAX)
+        return std::nullopt;
     return static_cast<float>(*value);
 }
 
 double roundHalfEven(double value) {
     const double floor = std::floor(value);
     const double fraction = value - floor;
-    if (fraction > 0.5) return floor + 1.0;
-    if (fraction < 0.5) return floor;
+    if (fraction > 0.5)
+        return floor + 1.0;
+    if (fraction < 0.5)
+        return floor;
     return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
 }
 
@@ -139,11 +152,51 @@ double roundHalfEven(double value, int decimals) {
 
 std::optional<int16_t> toInteger16(const std::string& text) {
     const auto value = numericValue(text);
-    if (!value) return std::nullopt;
+    if (!value)
+        return std::nullopt;
     const double rounded = roundHalfEven(*value);
     if (rounded < std::numeric_limits<int16_t>::min() || rounded > std::numeric_limits<int16_t>::max())
         return std::nullopt;
     return static_cast<int16_t>(rounded);
+}
+
+double leadingNumber(const std::string& text) {
+    size_t i = 0;
+    const size_t n = text.size();
+    while (i < n && (text[i] == ' ' || text[i] == '\t'))
+        ++i;
+    std::string plain;
+    if (i < n && (text[i] == '+' || text[i] == '-'))
+        plain += text[i++];
+    size_t digits = 0;
+    while (i < n && isDigit(text[i])) {
+        plain += text[i++];
+        ++digits;
+    }
+    if (i < n && text[i] == '.') {
+        plain += text[i++];
+        while (i < n && isDigit(text[i])) {
+            plain += text[i++];
+            ++digits;
+        }
+    }
+    if (digits == 0)
+        return 0.0;
+    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
+        std::string exponent = "E";
+        size_t j = i + 1;
+        if (j < n && (text[j] == '+' || text[j] == '-'))
+            exponent += text[j++];
+        size_t exponentDigits = 0;
+        while (j < n && isDigit(text[j])) {
+            exponent += text[j++];
+            ++exponentDigits;
+        }
+        if (exponentDigits > 0)
+            plain += exponent;
+    }
+    const double value = std::strtod(plain.c_str(), nullptr);
+    return std::isfinite(value) ? value : 0.0;
 }
 
 } // namespace brooklet

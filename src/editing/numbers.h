@@ -27,6 +27,11 @@ double roundHalfEven(double value);
 // Rounds to the given number of decimals, halves to the even neighbour.
 double roundHalfEven(double value, int decimals);
 
+// The value of the number a text begins with, as the grids compare their cells: leading blanks,
+// a sign, digits with one point and an E or D exponent; reading stops at the first character
+// that cannot continue the number. A text that begins with no number is worth 0.
+double leadingNumber(const std::string& text);
+
 // Trims blanks on both sides (only the blank character, as the file format counts it).
 std::string trim(const std::string& text);
 

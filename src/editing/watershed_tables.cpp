@@ -1,6 +1,6 @@
 #include "editing/watershed_tables.h"
 
-#include "editing/leading_number.h"
+#include "editing/numbers.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 #include "network/local_land_use.h"
 
 #include "editing/field_checks.h"
-#include "editing/leading_number.h"
 #include "editing/numbers.h"
 #include "network/delimited_values.h"
 #include "session/section_table.h"

@@ -51,6 +51,16 @@ TEST(RoundHalfEven, HalvesGoToTheEvenNeighbour) {
     EXPECT_DOUBLE_EQ(roundHalfEven(1.35, 1), 1.4);
 }
 
+TEST(LeadingNumber, ReadsTheNumberATextBeginsWith) {
+    EXPECT_DOUBLE_EQ(leadingNumber("  12.5abc"), 12.5);
+    EXPECT_DOUBLE_EQ(leadingNumber("-3e2x"), -300.0);
+    EXPECT_DOUBLE_EQ(leadingNumber("1.5D1"), 15.0);
+    EXPECT_DOUBLE_EQ(leadingNumber("7e"), 7.0);
+    EXPECT_DOUBLE_EQ(leadingNumber("abc"), 0.0);
+    EXPECT_DOUBLE_EQ(leadingNumber(""), 0.0);
+    EXPECT_DOUBLE_EQ(leadingNumber("1,000"), 1.0);
+}
+
 TEST(Trim, OnlyBlanksAreTrimmed) {
     EXPECT_EQ(trim("  a b  "), "a b");
     EXPECT_EQ(trim("\ta\t"), "\ta\t");
