@@ -19,6 +19,55 @@ bool isBlank(char c) {
     return c == ' ';
 }
 
+// Reads digits with one point and its decimals from position i into plain; with separators,
+// thousands separators may stand between the whole digits. Gives the number of digits read.
+size_t scanMantissa(const std::string& text, size_t& i, std::string& plain, bool separators) {
+    const size_t n = text.size();
+    size_t digits = 0;
+    while (i < n) {
+        if (isDigit(text[i])) {
+            plain += text[i++];
+            ++digits;
+        } else if (separators && text[i] == ',' && digits > 0 && i + 1 < n && isDigit(text[i + 1])) {
+            ++i;
+        } else {
+            break;
+        }
+    }
+    if (i < n && text[i] == '.') {
+        plain += text[i++];
+        while (i < n && isDigit(text[i])) {
+            plain += text[i++];
+            ++digits;
+        }
+    }
+    return digits;
+}
+
+enum class Exponent { None, Read, Broken };
+
+// Reads an E or D exponent with its sign and digits from position i into plain, as "E".
+// An exponent letter without digits is Broken and reads nothing.
+Exponent scanExponent(const std::string& text, size_t& i, std::string& plain) {
+    const size_t n = text.size();
+    if (i >= n || (text[i] != 'e' && text[i] != 'E' && text[i] != 'd' && text[i] != 'D'))
+        return Exponent::None;
+    std::string exponent = "E";
+    size_t j = i + 1;
+    if (j < n && isSign(text[j]))
+        exponent += text[j++];
+    size_t digits = 0;
+    while (j < n && isDigit(text[j])) {
+        exponent += text[j++];
+        ++digits;
+    }
+    if (digits == 0)
+        return Exponent::Broken;
+    plain += exponent;
+    i = j;
+    return Exponent::Read;
+}
+
 // Parses the trimmed text and, on success, gives the plain form that strtod reads:
 // sign, digits, point, exponent with E.
 std::optional<std::string> plainNumber(const std::string& raw) {
@@ -41,40 +90,10 @@ std::optional<std::string> plainNumber(const std::string& raw) {
     std::string plain;
     if (sign == '-')
         plain += '-';
-    size_t digits = 0;
-    // Whole part: digits, thousands separators only between digits.
-    while (i < n) {
-        if (isDigit(text[i])) {
-            plain += text[i++];
-            ++digits;
-        } else if (text[i] == ',' && digits > 0 && i + 1 < n && isDigit(text[i + 1])) {
-            ++i;
-        } else {
-            break;
-        }
-    }
-    if (i < n && text[i] == '.') {
-        plain += text[i++];
-        while (i < n && isDigit(text[i])) {
-            plain += text[i++];
-            ++digits;
-        }
-    }
-    if (digits == 0)
+    if (scanMantissa(text, i, plain, true) == 0)
         return std::nullopt;
-    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
-        plain += 'E';
-        ++i;
-        if (i < n && isSign(text[i]))
-            plain += text[i++];
-        size_t exponentDigits = 0;
-        while (i < n && isDigit(text[i])) {
-            plain += text[i++];
-            ++exponentDigits;
-        }
-        if (exponentDigits == 0)
-            return std::nullopt;
-    }
+    if (scanExponent(text, i, plain) == Exponent::Broken)
+        return std::nullopt;
     if (i < n && text[i] == '$' && !currency) {
         currency = true;
         ++i;
@@ -166,35 +185,11 @@ double leadingNumber(const std::string& text) {
     while (i < n && (text[i] == ' ' || text[i] == '\t'))
         ++i;
     std::string plain;
-    if (i < n && (text[i] == '+' || text[i] == '-'))
+    if (i < n && isSign(text[i]))
         plain += text[i++];
-    size_t digits = 0;
-    while (i < n && isDigit(text[i])) {
-        plain += text[i++];
-        ++digits;
-    }
-    if (i < n && text[i] == '.') {
-        plain += text[i++];
-        while (i < n && isDigit(text[i])) {
-            plain += text[i++];
-            ++digits;
-        }
-    }
-    if (digits == 0)
+    if (scanMantissa(text, i, plain, false) == 0)
         return 0.0;
-    if (i < n && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
-        std::string exponent = "E";
-        size_t j = i + 1;
-        if (j < n && (text[j] == '+' || text[j] == '-'))
-            exponent += text[j++];
-        size_t exponentDigits = 0;
-        while (j < n && isDigit(text[j])) {
-            exponent += text[j++];
-            ++exponentDigits;
-        }
-        if (exponentDigits > 0)
-            plain += exponent;
-    }
+    scanExponent(text, i, plain);
     const double value = std::strtod(plain.c_str(), nullptr);
     return std::isfinite(value) ? value : 0.0;
 }

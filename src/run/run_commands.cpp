@@ -37,18 +37,6 @@ bool runUnderHourglass(AppContext& context, const ExternalProgram& program) {
     return false;
 }
 
-FileDialogSettings& openDialog(frmMain& main, const AppContext& context, const char* filter,
-                               const char* fileName, const char* title) {
-    FileDialogSettings& dialog = main.CmnDialog1();
-    dialog.Filter = filter;
-    dialog.FilterIndex = 1;
-    dialog.FileName = fileName;
-    dialog.DialogTitle = title;
-    dialog.CancelError = true;
-    dialog.InitDir = context.session.LastFolder;
-    return dialog;
-}
-
 } // namespace
 
 int CallShell(AppContext& context, const std::string& Command, int WindowStyle) {
@@ -73,14 +61,11 @@ void RunModel(AppContext& context) {
 
 void ConvertOldData(AppContext& context, frmMain& main) {
     Session& session = context.session;
-    FileDialogSettings& dialog = openDialog(main, context, "Data Files (*.dat)|*.dat|All files (*.*)|*.*",
-                                            "*.dat", "Open old Flume file");
-    const auto chosen = context.platform.showOpenDialog(dialog);
+    main.CmnDialog1().FilterIndex = 1;
+    const auto chosen =
+        main.chooseFileToOpen("Data Files (*.dat)|*.dat|All files (*.*)|*.*", "*.dat", "Open old Flume file");
     if (!chosen)
         return;
-    dialog.FileName = *chosen;
-    session.LastFolder = DirectoryPart(*chosen);
-    setCurrentFolder(session.ProgramFolder);
 
     main.CloseInputFile();
     main.RefreshSectionList();
@@ -107,14 +92,11 @@ void ImportHecRas(AppContext& context, frmMain& main) {
     main.PromptBeforeLoading(oldName, "reformatted HEC-RAS cross section data ?", cancelled);
     if (cancelled)
         return;
-    FileDialogSettings& dialog = openDialog(main, context, "Text Files (*.txt)|*.txt|All files (*.*)|*.*",
-                                            "*.txt", "Open HEC-RAS file");
-    const auto chosen = context.platform.showOpenDialog(dialog);
+    main.CmnDialog1().FilterIndex = 1;
+    const auto chosen =
+        main.chooseFileToOpen("Text Files (*.txt)|*.txt|All files (*.*)|*.*", "*.txt", "Open HEC-RAS file");
     if (!chosen)
         return;
-    dialog.FileName = *chosen;
-    session.LastFolder = DirectoryPart(*chosen);
-    setCurrentFolder(session.ProgramFolder);
 
     session.CurrentFile = *chosen;
     if (!runUnderHourglass(context, ReformatterProgram)) {

@@ -360,26 +360,35 @@ void frmMain::newFile() {
     endFileCommand();
 }
 
+std::optional<std::string> frmMain::chooseFileToOpen(const std::string& filter, const std::string& fileName,
+                                                     const std::string& title) {
+    Session& session = context_.session;
+    dialog_.Filter = filter;
+    dialog_.FileName = fileName;
+    dialog_.DialogTitle = title;
+    dialog_.CancelError = true;
+    dialog_.InitDir = session.LastFolder;
+    const auto chosen = context_.platform.showOpenDialog(dialog_);
+    if (!chosen)
+        return std::nullopt;
+    dialog_.FileName = *chosen;
+    session.LastFolder = DirectoryPart(*chosen);
+    setCurrentFolder(session.ProgramFolder);
+    return chosen;
+}
+
 void frmMain::openExistingFile() {
     beginFileCommand();
     Session& session = context_.session;
     std::string oldName;
     PromptBeforeLoading(oldName, "another Brooklet input data file ?", cancelled_);
     if (!cancelled_) {
-        dialog_.Filter = std::string("Input Files (*.inp)|*.inp|") + "All files (*.*)|*.*";
-        dialog_.FileName = "*.inp";
-        dialog_.DialogTitle = "Open Brooklet file";
-        dialog_.CancelError = true;
-        dialog_.InitDir = session.LastFolder;
-        const auto chosen = context_.platform.showOpenDialog(dialog_);
+        const auto chosen = chooseFileToOpen(
+            std::string("Input Files (*.inp)|*.inp|") + "All files (*.*)|*.*", "*.inp", "Open Brooklet file");
         if (!chosen)
             return;
-        dialog_.FileName = *chosen;
-        session.LastFolder = DirectoryPart(*chosen);
         session.CurrentFile = *chosen;
         session.OutputPath = BaseName(session.CurrentFile) + "out";
-        setCurrentFolder(session.ProgramFolder);
-
         LoadInputFile(context_);
         fileItem(14)->setEnabled(true);
         fileItem(15)->setEnabled(true);

@@ -3,6 +3,9 @@
 // and the section list from which every editor window opens.
 #include <QMainWindow>
 
+#include <optional>
+#include <string>
+
 #include "editing/widgets.h"
 #include "session/platform.h"
 
@@ -41,6 +44,11 @@ public:
     void CloseInputFile();
     void SaveInputFileAs();
 
+    // Shows the open dialog in LastFolder with the given filter, file name and title. The chosen
+    // file's folder becomes LastFolder and the current folder returns to the program folder.
+    // Nothing when the user cancelled.
+    std::optional<std::string> chooseFileToOpen(const std::string& filter, const std::string& fileName,
+                                                const std::string& title);
     void setFileItemEnabled(int index, bool enabled) { fileItems_(index)->setEnabled(enabled); }
 
     // The File menu's commands by item index.
