@@ -473,6 +473,7 @@ void frmMain::SaveInputFileAs() {
 }
 
 void frmMain::exitProgram() {
+    beginFileCommand();
     Session& session = context_.session;
     if (session.DataChanged) {
         const BoxAnswer answer = context_.platform.showBox(

@@ -510,6 +510,7 @@ TEST_F(MainWindowTest, ExitWithNoChangesEndsAndKeepsTheSession) {
     clickMenuItem("mnuFileItem(18)");
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_EQ(platform.endCount, 1);
+    EXPECT_FALSE(control<QGroupBox>(main, "Frame1")->isVisible());
     EXPECT_TRUE(fileExists(workFile(16)));
 }
 
