@@ -510,8 +510,15 @@ TEST_F(MainWindowTest, ExitWithNoChangesEndsAndKeepsTheSession) {
     clickMenuItem("mnuFileItem(18)");
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_EQ(platform.endCount, 1);
-    EXPECT_FALSE(control<QGroupBox>(main, "Frame1")->isVisible());
     EXPECT_TRUE(fileExists(workFile(16)));
+}
+
+TEST_F(MainWindowTest, ExitAsTheFirstCommandHidesTheDisclaimerAndEnds) {
+    startMain();
+    clickMenuItem("mnuFileItem(18)");
+    EXPECT_FALSE(control<QGroupBox>(main, "Frame1")->isVisible());
+    EXPECT_FALSE(control<QPushButton>(main, "cmdHelp")->isVisible());
+    EXPECT_EQ(platform.endCount, 1);
 }
 
 TEST_F(MainWindowTest, ExitWithChangesAsksAndSavesWhereTheDialogSays) {
