@@ -7,10 +7,10 @@
 #include "generated_watershed.h"
 #include "options/entry_window.h"
 #include "session/app_context.h"
-#include "session/file_commands.h"
-#include "session/main_window.h"
+#include "app/file_commands.h"
+#include "app/main_window.h"
 #include "session/text_file.h"
-#include "session/window_catalog.h"
+#include "app/window_catalog.h"
 
 namespace brooklet::bench {
 namespace {

@@ -2,10 +2,10 @@
 // program folder as the current folder; the work files live in its "temp" folder.
 #include <QApplication>
 
+#include "app/main_window.h"
+#include "app/window_catalog.h"
 #include "session/app_context.h"
-#include "session/main_window.h"
 #include "session/qt_platform.h"
-#include "session/window_catalog.h"
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);

@@ -7,11 +7,11 @@
 
 #include <iostream>
 
+#include "app/file_commands.h"
+#include "app/main_window.h"
+#include "app/window_catalog.h"
 #include "session/app_context.h"
-#include "session/file_commands.h"
-#include "session/main_window.h"
 #include "session/qt_platform.h"
-#include "session/window_catalog.h"
 
 namespace {
 

@@ -113,23 +113,6 @@ std::optional<std::string> plainNumber(const std::string& raw) {
 
 } // namespace
 
-std::string trim(const std::string& text) {
-    size_t first = 0;
-    size_t last = text.size();
-    while (first < last && isBlank(text[first]))
-        ++first;
-    while (last > first && isBlank(text[last - 1]))
-        --last;
-    return text.substr(first, last - first);
-}
-
-std::string toUpper(std::string text) {
-    for (char& c : text)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return text;
-}
-
 bool isNumericText(const std::string& text) {
     return plainNumber(text).has_value();
 }

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "base/text.h"
+
 namespace brooklet {
 
 // True when the text, trimmed, is a number: an optional sign before or after it, a currency
@@ -31,11 +33,5 @@ double roundHalfEven(double value, int decimals);
 // a sign, digits with one point and an E or D exponent; reading stops at the first character
 // that cannot continue the number. A text that begins with no number is worth 0.
 double leadingNumber(const std::string& text);
-
-// Trims blanks on both sides (only the blank character, as the file format counts it).
-std::string trim(const std::string& text);
-
-// Upper case of ASCII letters; other bytes stay as they are.
-std::string toUpper(std::string text);
 
 } // namespace brooklet

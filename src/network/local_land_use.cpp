@@ -3,6 +3,7 @@
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "network/delimited_values.h"
+#include "network/standard_land_use.h"
 #include "session/section_table.h"
 #include "session/text_file.h"
 
@@ -115,7 +116,7 @@ void MergeLocalLandUse(const Session& session, bool& Changed) {
     for (const LandUseRow& row : table)
         known.insert(mergeKey(row[0]));
     for (int row = 1; row <= StandardLandUseRows; ++row)
-        known.insert(mergeKey(session.StandardLandUse(row, 0)));
+        known.insert(mergeKey(StandardLandUse()(row, 0)));
 
     DelimitedReader reader(*section);
     while (!reader.atEnd()) {

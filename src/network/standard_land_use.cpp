@@ -97,4 +97,13 @@ void LoadStandardLandUse(StandardLandUseTable& StandardLandUse) {
             StandardLandUse.cells_[row][column] = Rows[row][column];
 }
 
+const StandardLandUseTable& StandardLandUse() {
+    static const StandardLandUseTable table = [] {
+        StandardLandUseTable filled;
+        LoadStandardLandUse(filled);
+        return filled;
+    }();
+    return table;
+}
+
 } // namespace brooklet

@@ -31,4 +31,7 @@ private:
 // Fills the table; afterwards it is complete.
 void LoadStandardLandUse(StandardLandUseTable& StandardLandUse);
 
+// The program's own table, filled on first use and never changed afterwards.
+const StandardLandUseTable& StandardLandUse();
+
 } // namespace brooklet

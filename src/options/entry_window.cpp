@@ -2,7 +2,6 @@
 
 #include "editing/help_box.h"
 #include "session/app_context.h"
-#include "session/main_window.h"
 #include "session/text_file.h"
 
 #include <QButtonGroup>
@@ -79,8 +78,7 @@ void EntryWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     // The main window's activation refreshes the X marks and the Run and View menus; it runs
     // here too, for platforms that do not activate it when this window goes.
-    if (auto* main = context.windows.loadedAs<frmMain>("frmMain"))
-        main->Form_Activate();
+    context.windows.runMainActivation();
 }
 
 HelpLabel* EntryWindow::addHeader(const QString& caption) {

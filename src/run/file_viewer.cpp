@@ -1,7 +1,7 @@
 #include "run/file_viewer.h"
 
 #include "session/app_context.h"
-#include "session/main_window.h"
+#include "session/view_menu.h"
 #include "session/text_file.h"
 
 #include <QLabel>

@@ -3,9 +3,6 @@
 #include "run/external_programs.h"
 #include "run/file_viewer.h"
 #include "session/app_context.h"
-#include "session/file_commands.h"
-#include "session/input_file.h"
-#include "session/main_window.h"
 #include "session/text_file.h"
 
 #include <QApplication>
@@ -27,8 +24,9 @@ void showNotFound(AppContext& context) {
         {context.session.ToolName + " - NOT FOUND", DefaultBoxTitle, BoxButtons::Ok, BoxIcon::None});
 }
 
-// Runs one of the three programs under the hourglass; says so when it is not there.
-bool runUnderHourglass(AppContext& context, const ExternalProgram& program) {
+} // namespace
+
+bool RunProgramUnderHourglass(AppContext& context, const ExternalProgram& program) {
     Hourglass hourglass;
     context.session.ToolName = program.ToolName;
     if (RunExternalProgram(context, program.ControlFile, program.Program))
@@ -36,8 +34,6 @@ bool runUnderHourglass(AppContext& context, const ExternalProgram& program) {
     showNotFound(context);
     return false;
 }
-
-} // namespace
 
 int CallShell(AppContext& context, const std::string& Command, int WindowStyle) {
     (void)WindowStyle; // programs are always started hidden
@@ -56,61 +52,7 @@ bool RunExternalProgram(AppContext& context, const std::string& ControlFile, con
 
 void RunModel(AppContext& context) {
     context.session.RunResultLabel = "Brooklet Printed Page File";
-    runUnderHourglass(context, ModelProgram);
-}
-
-void ConvertOldData(AppContext& context, frmMain& main) {
-    Session& session = context.session;
-    main.CmnDialog1().FilterIndex = 1;
-    const auto chosen =
-        main.chooseFileToOpen("Data Files (*.dat)|*.dat|All files (*.*)|*.*", "*.dat", "Open old Flume file");
-    if (!chosen)
-        return;
-
-    main.CloseInputFile();
-    main.RefreshSectionList();
-    session.CurrentFile = *chosen;
-    if (!runUnderHourglass(context, ConverterProgram)) {
-        setCurrentFolder(session.ProgramFolder);
-        return;
-    }
-    session.DataChanged = false;
-    if (!session.isUntitled()) {
-        session.CurrentFile = BaseName(*chosen) + "inp";
-        LoadInputFile(context);
-        main.setFileItemEnabled(14, true);
-        main.setFileItemEnabled(15, true);
-        session.DataChanged = false;
-        context.windows.ShowWindowAtOrigin("frmFlume");
-    }
-}
-
-void ImportHecRas(AppContext& context, frmMain& main) {
-    Session& session = context.session;
-    std::string oldName;
-    bool cancelled = false;
-    main.PromptBeforeLoading(oldName, "reformatted HEC-RAS cross section data ?", cancelled);
-    if (cancelled)
-        return;
-    main.CmnDialog1().FilterIndex = 1;
-    const auto chosen =
-        main.chooseFileToOpen("Text Files (*.txt)|*.txt|All files (*.*)|*.*", "*.txt", "Open HEC-RAS file");
-    if (!chosen)
-        return;
-
-    session.CurrentFile = *chosen;
-    if (!runUnderHourglass(context, ReformatterProgram)) {
-        // Nothing was imported: a session kept open goes on under its own name.
-        if (oldName != " ")
-            session.CurrentFile = oldName;
-        return;
-    }
-    session.DataChanged = true;
-    session.CurrentFile = BaseName(session.CurrentFile) + "inp";
-    AppendReformattedSections(session);
-    context.windows.ShowWindowAtOrigin("frmFlume");
-    if (oldName != " ")
-        session.CurrentFile = oldName;
+    RunProgramUnderHourglass(context, ModelProgram);
 }
 
 } // namespace brooklet

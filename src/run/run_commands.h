@@ -6,7 +6,7 @@
 namespace brooklet {
 
 struct AppContext;
-class frmMain;
+struct ExternalProgram;
 
 // Starts Command hidden (WindowStyle 0) and waits for its end with the windows alive.
 // -1 when the program ran and has ended; 0 when it could not be started.
@@ -18,9 +18,8 @@ bool RunExternalProgram(AppContext& context, const std::string& ControlFile, con
 
 // The Run menu: the model on the saved input file.
 void RunModel(AppContext& context);
-// File menu item 6: the converter on an old input file, whose result is then loaded.
-void ConvertOldData(AppContext& context, frmMain& main);
-// File menu item 7: the reformatter on a HEC-RAS file, whose cross sections join the session.
-void ImportHecRas(AppContext& context, frmMain& main);
+// Runs one of the three programs under the hourglass; says so when it is not there. False
+// when it could not be started.
+bool RunProgramUnderHourglass(AppContext& context, const ExternalProgram& program);
 
 } // namespace brooklet

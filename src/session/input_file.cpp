@@ -1,7 +1,6 @@
 #include "session/input_file.h"
 
-#include "editing/numbers.h"
-#include "network/local_land_use.h"
+#include "base/text.h"
 
 #include <vector>
 
@@ -34,7 +33,8 @@ const char* const OldIdentificationHeaders[] = {"FLUME: BETA TEST", "FLUME: VERS
 // Replaces an old identification header by the current one, keeping columns 22 on in place.
 bool renewOldHeader(std::string& header, std::string& line) {
     for (const char* old : OldIdentificationHeaders) {
-        if (header != old) continue;
+        if (header != old)
+            continue;
         const std::string& current = sectionHeader(IdentificationSection);
         header = current;
         if (line.size() > current.size())
@@ -48,7 +48,8 @@ bool renewOldHeader(std::string& header, std::string& line) {
 
 int findSection(const Session& session, const std::string& header) {
     for (int i = 1; i <= SectionCount; ++i)
-        if (toUpper(session.SectionTable[i]) == header) return i;
+        if (toUpper(session.SectionTable[i]) == header)
+            return i;
     return 0;
 }
 
@@ -56,7 +57,8 @@ int findSection(const Session& session, const std::string& header) {
 
 LoadResult LoadInputFile(Session& session) {
     LoadResult result;
-    if (session.CurrentFile.empty()) return result;
+    if (session.CurrentFile.empty())
+        return result;
     ClearWorkFiles(session);
 
     auto bytes = readFileBytes(session.CurrentFile);
@@ -70,7 +72,8 @@ LoadResult LoadInputFile(Session& session) {
     LineReader input(std::move(*bytes));
     while (!input.atEnd()) {
         std::string line = input.readLine();
-        if (isBlankLine(line)) continue;
+        if (isBlankLine(line))
+            continue;
         std::string header = headerOf(line);
         renewOldHeader(header, line);
         const int section = findSection(session, toUpper(header));
@@ -81,15 +84,12 @@ LoadResult LoadInputFile(Session& session) {
         }
         bool complete = false;
         CopySectionToWorkFile(input, line, session.WorkFilePath[section], complete);
-        if (complete) break;
+        if (complete)
+            break;
     }
 
-    if (!session.isUntitled()) {
+    if (!session.isUntitled())
         WriteFileNameWorkFile(session);
-        // The land uses the file brings along stay known to the local land use file.
-        bool changed = false;
-        MergeLocalLandUse(session, changed);
-    }
     return result;
 }
 
@@ -103,7 +103,8 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
             break;
         }
         Line = input.readLine();
-        if (isBlankLine(Line)) break;
+        if (isBlankLine(Line))
+            break;
     }
     // A second section with the same header replaces the first.
     writeLines(Path, lines);
@@ -111,7 +112,8 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
 
 void AppendReformattedSections(const Session& session) {
     auto bytes = readFileBytes(session.CurrentFile);
-    if (!bytes || bytes->empty()) return;
+    if (!bytes || bytes->empty())
+        return;
     LineReader input(std::move(*bytes));
     // The reformatter's first four lines are its own; the fifth is the section header line.
     std::string header;
@@ -121,7 +123,8 @@ void AppendReformattedSections(const Session& session) {
     const std::string& workFile = session.WorkFilePath[CrossSectionSection];
     const bool hasRecords = hasLineAfterFirst(workFile);
     std::vector<std::string> added;
-    if (!hasRecords) added.push_back(header);
+    if (!hasRecords)
+        added.push_back(header);
     while (!input.atEnd())
         added.push_back(input.readLine());
     const std::string before = readFileBytes(workFile).value_or(std::string());
@@ -129,16 +132,16 @@ void AppendReformattedSections(const Session& session) {
 }
 
 SaveResult SaveInputFile(Session& session) {
-    // The saved file carries the local land uses that its land use records name.
-    BuildLocalLandUseSection(session);
     std::string joined;
     for (int section : SaveOrder) {
         auto bytes = readFileBytes(session.WorkFilePath[section]);
-        if (!bytes) continue; // a missing work file leaves the section out, blank line and all
+        if (!bytes)
+            continue; // a missing work file leaves the section out, blank line and all
         LineReader reader(std::move(*bytes));
         while (!reader.atEnd()) {
             std::string line = reader.readLine();
-            if (!isBlankLine(line)) joined += line + "\r\n";
+            if (!isBlankLine(line))
+                joined += line + "\r\n";
         }
         joined += "\r\n";
     }

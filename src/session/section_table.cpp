@@ -1,6 +1,6 @@
 #include "session/section_table.h"
 
-#include "editing/numbers.h"
+#include "base/text.h"
 #include "session/text_file.h"
 
 namespace brooklet {
@@ -72,7 +72,8 @@ void StartSession(Session& session, const std::string& startFolder) {
     session.LocalSoilFile = session.ProgramFolder + "Local_Soil_HSG.txt";
     session.HelpListFile = session.ProgramFolder + "BrookletHelp.lst";
 
-    if (!folderExists(session.WorkFolder)) createFolder(session.WorkFolder);
+    if (!folderExists(session.WorkFolder))
+        createFolder(session.WorkFolder);
 
     for (int i = 1; i <= WorkFileCount; ++i)
         session.WorkFilePath[i] = session.WorkFolder + WorkFileNames[i];
@@ -80,7 +81,6 @@ void StartSession(Session& session, const std::string& startFolder) {
         session.SectionTable[i] = Headers[i];
     for (int i = 1; i <= ResultExtensionCount; ++i)
         session.ResultExtension[i] = Extensions[i];
-    LoadStandardLandUse(session.StandardLandUse);
 }
 
 void ClearWorkFiles(const Session& session) {
@@ -89,14 +89,16 @@ void ClearWorkFiles(const Session& session) {
 
 std::string BaseName(const std::string& Path) {
     const auto point = Path.rfind('.');
-    if (point == std::string::npos) return Path + ".";
+    if (point == std::string::npos)
+        return Path + ".";
     return Path.substr(0, point + 1);
 }
 
 std::string DirectoryPart(const std::string& Path) {
     const std::string trimmed = trim(Path);
     const auto separator = trimmed.rfind(folderSeparator());
-    if (separator == std::string::npos) return Path;
+    if (separator == std::string::npos)
+        return Path;
     return trimmed.substr(0, separator + 1);
 }
 

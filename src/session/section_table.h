@@ -4,8 +4,6 @@
 #include <array>
 #include <string>
 
-#include "network/standard_land_use.h"
-
 namespace brooklet {
 
 constexpr int SectionCount = 15;
@@ -92,15 +90,11 @@ struct Session {
     std::string LocalSoilFile;
     std::string HelpListFile;
 
-    // The curve numbers of the standard land uses, filled at start-up.
-    StandardLandUseTable StandardLandUse;
-
     bool isUntitled() const { return CurrentFile == UntitledFile; }
 };
 
 // Sets the tables and paths from the start folder (the current folder when the main window
-// loads), creates the work folder if it is missing, silently, and fills the standard land use
-// table.
+// loads) and creates the work folder if it is missing, silently.
 void StartSession(Session& session, const std::string& startFolder);
 
 // Deletes every work file, "~filename.tmp" included, silently.

@@ -2,8 +2,9 @@
 
 namespace brooklet {
 
-void WindowHost::registerWindow(const QString& name, Factory factory) {
+void WindowHost::registerWindow(const QString& name, Factory factory, Kind kind) {
     factories_[name] = std::move(factory);
+    kinds_[name] = kind;
 }
 
 void WindowHost::adopt(const QString& name, QWidget* window) {
@@ -20,7 +21,8 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
     QWidget* window = loaded(name);
     if (!window) {
         auto factory = factories_.find(name);
-        if (factory == factories_.end()) return nullptr;
+        if (factory == factories_.end())
+            return nullptr;
         window = factory->second(context_);
         // A window unloads itself when it is closed.
         window->setAttribute(Qt::WA_DeleteOnClose);
@@ -36,7 +38,25 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
 }
 
 void WindowHost::unload(const QString& name) {
-    if (QWidget* window = loaded(name)) window->close();
+    if (QWidget* window = loaded(name))
+        window->close();
+}
+
+void WindowHost::closeSessionWindows() {
+    closingSessionWindows_ = true;
+    for (auto it = instances_.begin(); it != instances_.end();) {
+        auto kind = kinds_.find(it->first);
+        // Only windows the host made belong to a session; the main window was adopted.
+        const bool sessionWindow = kind != kinds_.end() && kind->second == Kind::Session;
+        if (sessionWindow && it->second && it->second->close()) {
+            // The closed window is deleted later; a window of the same name opened by the new
+            // session must be a new one.
+            it = instances_.erase(it);
+        } else {
+            ++it;
+        }
+    }
+    closingSessionWindows_ = false;
 }
 
 QStringList WindowHost::registeredNames() const {

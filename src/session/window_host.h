@@ -19,8 +19,14 @@ public:
 
     explicit WindowHost(AppContext& context) : context_(context) {}
 
+    // What a window holds, which decides whether it outlives the session it was opened in.
+    enum class Kind {
+        Session, // an editor or tool window: it shows the data of one session
+        Help,    // a help text: it holds no data of a session
+    };
+
     // Makes a window known by its name, for example "frmFlume".
-    void registerWindow(const QString& name, Factory factory);
+    void registerWindow(const QString& name, Factory factory, Kind kind = Kind::Session);
     bool isRegistered(const QString& name) const { return factories_.count(name) != 0; }
     // A window that lives outside the host's factories, such as the main window.
     void adopt(const QString& name, QWidget* window);
@@ -34,6 +40,20 @@ public:
     template <typename T> T* loadedAs(const QString& name) const { return qobject_cast<T*>(loaded(name)); }
     // Closes the window if it is loaded.
     void unload(const QString& name);
+    // Closes every editor and tool window as "No Changes" would, asking nothing, before a new
+    // session begins: no window of the old session may write its data into the new one.
+    void closeSessionWindows();
+    // True while closeSessionWindows closes windows: they close without a question.
+    bool closingSessionWindows() const { return closingSessionWindows_; }
+
+    // The main window's activation step, run when an editor closes, for platforms that do not
+    // activate the main window when another goes.
+    void setMainActivation(std::function<void()> activation) { mainActivation_ = std::move(activation); }
+    void runMainActivation() const {
+        if (mainActivation_)
+            mainActivation_();
+    }
+
     // Every name passed to ShowWindowAtOrigin, in order.
     const QStringList& shownNames() const { return shown_; }
     QStringList registeredNames() const;
@@ -41,6 +61,9 @@ public:
 private:
     AppContext& context_;
     std::map<QString, Factory> factories_;
+    std::map<QString, Kind> kinds_;
+    std::function<void()> mainActivation_;
+    bool closingSessionWindows_ = false;
     std::map<QString, QPointer<QWidget>> instances_;
     QStringList shown_;
 };

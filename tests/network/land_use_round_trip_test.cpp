@@ -1,5 +1,6 @@
 // Input files that carry the section "LOCAL LAND USE:" through a load and a save, with and
 // without a local land use file: the local file, work file 15 and the saved file, byte for byte.
+#include "network/local_land_use.h"
 #include "session/input_file.h"
 
 #include "support/program_folder.h"
@@ -28,13 +29,24 @@ class LandUseRoundTripTest : public ProgramFolderTest {
 protected:
     LandUseRoundTripTest() { StartSession(session, currentFolder()); }
 
+    // The steps of the File commands' load and save that concern land uses.
     void load(const Lines& lines) {
         session.CurrentFile = folder.file("shed.inp");
         writeBytes(session.CurrentFile, crlf(lines));
-        ASSERT_FALSE(LoadInputFile(session).box.has_value());
+        EXPECT_FALSE(loadCurrentFile());
+    }
+    // Loads CurrentFile and merges its land uses, as the File commands do for a named file;
+    // true when the load had a box to show.
+    bool loadCurrentFile() {
+        const bool box = LoadInputFile(session).box.has_value();
+        bool changed = false;
+        if (!session.isUntitled())
+            MergeLocalLandUse(session, changed);
+        return box;
     }
     void save() {
         session.CurrentFile = folder.file("saved.inp");
+        BuildLocalLandUseSection(session);
         ASSERT_TRUE(SaveInputFile(session).ok);
     }
     std::string localFile() const { return bytesOf(session.LocalLandUseFile); }
@@ -104,7 +116,7 @@ TEST_F(LandUseRoundTripTest, AFileWithoutTheSectionGainsItOnSaveAndKeepsItOnRelo
     // Loading the saved file again: the section is read into work file 15, and its lines join
     // the local file as names.
     session.CurrentFile = folder.file("saved.inp");
-    ASSERT_FALSE(LoadInputFile(session).box.has_value());
+    ASSERT_FALSE(loadCurrentFile());
     EXPECT_EQ(section(), crlf({"LOCAL LAND USE:", LotRecord}));
     EXPECT_EQ(localFile(), crlf({"\"Lot\",,70,75,80,85", "\"LOCAL LAND USE:\",,,,,",
                                  "\"" + padded("Lot", 50) + "70.  75.  80.  85.\",,,,,"}));
@@ -122,7 +134,7 @@ TEST_F(LandUseRoundTripTest, AFileThatUsesNoLocalLandUseSavesWithoutTheSection) 
 TEST_F(LandUseRoundTripTest, AnUntitledSessionMergesNothing) {
     session.CurrentFile = folder.file("gone.inp");
     writeBytes(session.WorkFilePath[LocalLandUseSection], crlf({"LOCAL LAND USE:", LotRecord}));
-    ASSERT_TRUE(LoadInputFile(session).box.has_value());
+    ASSERT_TRUE(loadCurrentFile());
     EXPECT_EQ(session.CurrentFile, UntitledFile);
     EXPECT_FALSE(fileExists(session.LocalLandUseFile));
 }
@@ -130,7 +142,7 @@ TEST_F(LandUseRoundTripTest, AnUntitledSessionMergesNothing) {
 TEST_F(LandUseRoundTripTest, ALoadStoppedByAnUnknownHeaderStillMergesWhatWasRead) {
     session.CurrentFile = folder.file("shed.inp");
     writeBytes(session.CurrentFile, crlf({"LOCAL LAND USE:", "Orchard", "", "Nonsense:", ""}));
-    ASSERT_TRUE(LoadInputFile(session).box.has_value());
+    ASSERT_TRUE(loadCurrentFile());
     EXPECT_EQ(localFile(), crlf({"\"LOCAL LAND USE:\",,,,,", "\"Orchard\",,,,,"}));
 }
 

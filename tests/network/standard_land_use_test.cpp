@@ -93,15 +93,12 @@ TEST_F(StandardLandUseTest, CurveNumbersDoNotFallFromGroupAToGroupD) {
             }
 }
 
-class StandardLandUseStartTest : public ProgramFolderTest {};
-
-TEST_F(StandardLandUseStartTest, TheSessionStartFillsTheTable) {
-    Session session;
-    EXPECT_FALSE(session.StandardLandUse.loaded());
-    StartSession(session, currentFolder());
-    EXPECT_TRUE(session.StandardLandUse.loaded());
-    EXPECT_EQ(session.StandardLandUse(53, 0), "Pasture (Poor)");
-    EXPECT_EQ(session.StandardLandUse(81, 4), "84");
+TEST(StandardLandUseOfTheProgram, IsFilledOnFirstUseAndStaysTheSameTable) {
+    const StandardLandUseTable& table = StandardLandUse();
+    EXPECT_TRUE(table.loaded());
+    EXPECT_EQ(table(53, 0), "Pasture (Poor)");
+    EXPECT_EQ(table(81, 4), "84");
+    EXPECT_EQ(&StandardLandUse(), &table);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "session/input_file.h"
 #include "session/text_file.h"
+#include "session/view_menu.h"
 
 #include <QAction>
 #include <QGroupBox>

@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QPointer>
 
-#include "session/window_catalog.h"
+#include "app/window_catalog.h"
 
 namespace brooklet::test {
 

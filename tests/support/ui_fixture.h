@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "session/app_context.h"
-#include "session/main_window.h"
+#include "app/main_window.h"
 #include "support/program_folder.h"
 #include "support/scripted_platform.h"
 

@@ -24,10 +24,6 @@ struct AppContext;
 // The editor window of each listed section, by section number 1 to 14.
 QString editorWindowName(int section);
 
-// Enables the View items of a window that has the menu mnuView and the items mnuViewItem(i),
-// by the files that exist; shows mnuView when any item is enabled.
-void UpdateViewMenu(AppContext& context, QWidget* window);
-
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:

@@ -1,12 +1,14 @@
-#include "session/main_window.h"
+#include "app/main_window.h"
 
+#include "app/file_commands.h"
 #include "editing/help_windows.h"
+#include "network/standard_land_use.h"
 #include "run/file_viewer.h"
 #include "run/run_commands.h"
 #include "session/app_context.h"
-#include "session/file_commands.h"
 #include "session/input_file.h"
 #include "session/text_file.h"
+#include "session/view_menu.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -50,50 +52,19 @@ QString editorWindowName(int section) {
     return section >= 1 && section <= 14 ? QString(EditorWindows[section]) : QString();
 }
 
-void UpdateViewMenu(AppContext& context, QWidget* window) {
-    const Session& session = context.session;
-    auto item = [window](int index) {
-        return window->findChild<QAction*>(indexedName("mnuViewItem", index));
-    };
-    for (int index : {0, 1, 4, 5, 6, 7, 8})
-        if (QAction* action = item(index))
-            action->setEnabled(false);
-    bool anyFile = false;
-    if (hasLineAfterFirst(session.WorkFilePath[ReachSection])) {
-        item(0)->setEnabled(true);
-        anyFile = true;
-    }
-    if (session.DataChanged)
-        return;
-    // The untitled marker is "> Untitled <", so this holds for every session.
-    if (session.CurrentFile != "<untitled>") {
-        item(1)->setEnabled(true);
-        anyFile = true;
-    }
-    const std::string base = BaseName(session.CurrentFile);
-    int index = 4;
-    for (const char* extension : {"out", "err", "dbg", "hyd", "ecn"}) {
-        if (hasLineAfterFirst(base + extension)) {
-            item(index)->setEnabled(true);
-            anyFile = true;
-        }
-        ++index;
-    }
-    if (auto* menu = window->findChild<QMenu*>("mnuView"))
-        menu->menuAction()->setVisible(anyFile);
-}
-
 frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
     setObjectName("frmMain");
     setWindowTitle(DesignCaption);
     buildControls();
     buildMenus();
     context_.windows.adopt("frmMain", this);
+    context_.windows.setMainActivation([this] { Form_Activate(); });
 
     Session& session = context_.session;
     session.ToolName.clear();
     session.EnglishUnits = true;
     StartSession(session, currentFolder());
+    StandardLandUse(); // the built-in curve numbers, ready before the first window needs them
     move(0, 0);
     Form_Activate();
 }
@@ -387,6 +358,7 @@ void frmMain::openExistingFile() {
             std::string("Input Files (*.inp)|*.inp|") + "All files (*.*)|*.*", "*.inp", "Open Brooklet file");
         if (!chosen)
             return;
+        context_.windows.closeSessionWindows();
         session.CurrentFile = *chosen;
         session.OutputPath = BaseName(session.CurrentFile) + "out";
         LoadInputFile(context_);
@@ -400,6 +372,7 @@ void frmMain::openExistingFile() {
 
 void frmMain::reopenLastSession() {
     beginFileCommand();
+    context_.windows.closeSessionWindows();
     Session& session = context_.session;
     if (auto line = readFirstLine(session.WorkFilePath[FileNameWorkFile]))
         session.CurrentFile = *line;
@@ -522,6 +495,7 @@ void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Promp
 }
 
 void frmMain::CloseInputFile() {
+    context_.windows.closeSessionWindows();
     context_.session.CurrentFile = UntitledFile;
     fileItem(14)->setEnabled(false);
     fileItem(15)->setEnabled(true);

@@ -1,4 +1,4 @@
-#include "session/window_catalog.h"
+#include "app/window_catalog.h"
 
 #include "editing/help_windows.h"
 #include "network/local_land_use_editor.h"
@@ -18,13 +18,20 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmDurInc", [](AppContext& context) { return new frmDurInc(context); });
     windows.registerWindow("frmTimeA", [](AppContext& context) { return new frmTimeA(context); });
     windows.registerWindow("frmGlobal", [](AppContext& context) { return new frmGlobal(context); });
-    windows.registerWindow("frmVerification", [](AppContext& context) { return new frmVerification(context); });
-    windows.registerWindow("frmAbout", [](AppContext& context) { return new frmAbout(context); });
-    windows.registerWindow("frmDiagram", [](AppContext& context) { return new frmDiagram(context); });
+    windows.registerWindow("frmVerification",
+                           [](AppContext& context) { return new frmVerification(context); });
+    // Help texts hold nothing of a session; they stay open when a new one begins.
+    const auto help = WindowHost::Kind::Help;
+    windows.registerWindow(
+        "frmAbout", [](AppContext& context) { return new frmAbout(context); }, help);
+    windows.registerWindow(
+        "frmDiagram", [](AppContext& context) { return new frmDiagram(context); }, help);
     for (const QString& name : TextHelpWindow::names())
-        windows.registerWindow(name, [name](AppContext&) { return new TextHelpWindow(name); });
+        windows.registerWindow(
+            name, [name](AppContext&) { return new TextHelpWindow(name); }, help);
     windows.registerWindow("frmFileDisp", [](AppContext& context) { return new frmFileDisp(context); });
-    windows.registerWindow("frmLocalLanduse", [](AppContext& context) { return new frmLocalLanduse(context); });
+    windows.registerWindow("frmLocalLanduse",
+                           [](AppContext& context) { return new frmLocalLanduse(context); });
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
 }

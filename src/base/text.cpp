@@ -1,0 +1,22 @@
+#include "base/text.h"
+
+namespace brooklet {
+
+std::string trim(const std::string& text) {
+    size_t first = 0;
+    size_t last = text.size();
+    while (first < last && text[first] == ' ')
+        ++first;
+    while (last > first && text[last - 1] == ' ')
+        --last;
+    return text.substr(first, last - first);
+}
+
+std::string toUpper(std::string text) {
+    for (char& c : text)
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    return text;
+}
+
+} // namespace brooklet
