@@ -8,6 +8,8 @@
 #include "session/input_file.h"
 #include "session/text_file.h"
 
+#include <string>
+
 namespace brooklet {
 
 void LoadInputFile(AppContext& context) {
@@ -25,8 +27,32 @@ void LoadInputFile(AppContext& context) {
     context.windows.ShowWindowAtOrigin(session.isUntitled() ? "frmMain" : "frmFlume");
 }
 
+namespace {
+
+// A file whose load stopped early is overwritten with the sections read before that line only
+// when the user says so.
+bool mayOverwritePartlyReadFile(AppContext& context) {
+    const Session& session = context.session;
+    const auto line = PartlyReadLine(session, session.CurrentFile);
+    if (!line)
+        return true;
+    const BoxAnswer answer = context.platform.showBox(
+        {"The file " + session.CurrentFile + " was read only up to line " + std::to_string(*line) +
+             ", where a section header was not found. Saving replaces the whole file with the sections "
+             "read before that line, and the rest of the file is lost.\r\rSave it anyway?",
+         SystemBoxTitle, BoxButtons::YesNo, BoxIcon::Exclamation});
+    return answer == BoxAnswer::Yes;
+}
+
+} // namespace
+
 bool SaveInputFile(AppContext& context) {
     Session& session = context.session;
+    // A session without a name has no file to write.
+    if (session.isUntitled() || session.CurrentFile.empty())
+        return false;
+    if (!mayOverwritePartlyReadFile(context))
+        return false;
     // The saved file carries the local land uses that its land use records name. A save that
     // fails puts the section back as it was, so the work files are untouched.
     const std::string& landUseWorkFile = session.WorkFilePath[LocalLandUseSection];

@@ -14,8 +14,9 @@ class frmMain;
 void LoadInputFile(AppContext& context);
 
 // Regenerates the section "LOCAL LAND USE:", saves the work files into CurrentFile and shows
-// the box that says so, or why it failed. True when the file was written; on failure the work
-// files are as they were.
+// the box that says so, or why it failed. A file whose load stopped early is written only when
+// the user answers Yes to the question that says so; an untitled session writes nothing. True
+// when the file was written; otherwise the file and the work files are as they were.
 bool SaveInputFile(AppContext& context);
 
 // File menu item 6: the converter on an old input file, whose result is then loaded.

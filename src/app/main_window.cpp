@@ -389,6 +389,11 @@ void frmMain::reopenLastSession() {
 }
 
 void frmMain::saveFile() {
+    // A session without a name has no file to save into: Save asks for one.
+    if (context_.session.isUntitled()) {
+        saveFileAs();
+        return;
+    }
     beginFileCommand();
     // A save that failed leaves the data unsaved, and the model may not run on it.
     if (SaveInputFile(context_))
@@ -407,6 +412,16 @@ void frmMain::saveFileAs() {
     endFileCommand();
 }
 
+std::optional<std::string> frmMain::chooseInputFileToSave() {
+    dialog_.DefaultExtension = "inp";
+    auto chosen = context_.platform.showSaveDialog(dialog_);
+    if (chosen) {
+        *chosen = WithDefaultExtension(*chosen, dialog_.DefaultExtension);
+        dialog_.FileName = *chosen;
+    }
+    return chosen;
+}
+
 void frmMain::SaveInputFileAs() {
     Session& session = context_.session;
     if (!session.isUntitled()) {
@@ -420,10 +435,11 @@ void frmMain::SaveInputFileAs() {
     dialog_.FilterIndex = 1;
     dialog_.CancelError = true;
     dialog_.InitDir = session.LastFolder;
-    const auto chosen = context_.platform.showSaveDialog(dialog_);
+    // The "Save:" question below is this command's confirmation.
+    dialog_.ConfirmOverwrite = false;
+    const auto chosen = chooseInputFileToSave();
     if (!chosen)
         return;
-    dialog_.FileName = *chosen;
     session.LastFolder = DirectoryPart(*chosen);
     setCurrentFolder(session.ProgramFolder);
 
@@ -457,15 +473,22 @@ void frmMain::exitProgram() {
             deleteFile(session.WorkFilePath[FileNameWorkFile]);
         } else {
             dialog_.InitDir = session.LastFolder;
-            const auto chosen = context_.platform.showSaveDialog(dialog_);
+            // Whatever an earlier command left in the dialog, this one saves the input file, and
+            // an existing file is replaced only when the user confirms it.
+            dialog_.DialogTitle = "Save Brooklet file";
+            dialog_.ConfirmOverwrite = true;
+            const auto chosen = chooseInputFileToSave();
             if (chosen) {
-                dialog_.FileName = *chosen;
                 session.LastFolder = DirectoryPart(*chosen);
                 if (!chosen->empty()) {
+                    const std::string oldName = session.CurrentFile;
                     session.CurrentFile = *chosen;
-                    // A file that could not be written keeps the program open, so nothing is lost.
-                    if (!SaveInputFile(context_))
+                    // A file that could not be written keeps the program open under its old
+                    // name, so nothing is lost.
+                    if (!SaveInputFile(context_)) {
+                        session.CurrentFile = oldName;
                         return;
+                    }
                 }
             }
         }
@@ -488,7 +511,11 @@ void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Promp
         }
         if (answer == BoxAnswer::No)
             return;
-        SaveInputFile(context_);
+        // A save that did not happen stops the command: the session stays as it was.
+        if (!SaveInputFile(context_)) {
+            Cancelled = true;
+            return;
+        }
     }
     CloseInputFile();
     OldName = " ";

@@ -45,6 +45,8 @@ public:
     // Nothing when the user cancelled.
     std::optional<std::string> chooseFileToOpen(const std::string& filter, const std::string& fileName,
                                                 const std::string& title);
+    // Shows the save dialog for an input file; a name typed without an extension gets ".inp".
+    std::optional<std::string> chooseInputFileToSave();
     void setFileItemEnabled(int index, bool enabled) { fileItems_(index)->setEnabled(enabled); }
 
     // The File menu's commands by item index.

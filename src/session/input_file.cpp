@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 
+#include <cstdlib>
 #include <vector>
 
 namespace brooklet {
@@ -46,6 +47,10 @@ bool renewOldHeader(std::string& header, std::string& line) {
     return false;
 }
 
+std::string partlyReadNote(const Session& session) {
+    return session.WorkFolder + "~PartlyRead.tmp";
+}
+
 int findSection(const Session& session, const std::string& header) {
     for (int i = 1; i <= SectionCount; ++i)
         if (toUpper(session.SectionTable[i]) == header)
@@ -80,6 +85,7 @@ LoadResult LoadInputFile(Session& session) {
         if (section == 0) {
             result.box = BoxRequest{"Section Header: " + header + " not found! ", DefaultBoxTitle,
                                     BoxButtons::Ok, BoxIcon::Exclamation};
+            result.stoppedAtLine = input.lineNumber();
             break;
         }
         bool complete = false;
@@ -90,7 +96,21 @@ LoadResult LoadInputFile(Session& session) {
 
     if (!session.isUntitled())
         WriteFileNameWorkFile(session);
+    if (result.stoppedAtLine > 0)
+        writeLines(partlyReadNote(session), {session.CurrentFile, std::to_string(result.stoppedAtLine)});
     return result;
+}
+
+std::optional<int> PartlyReadLine(const Session& session, const std::string& File) {
+    const std::vector<std::string> note = readLines(partlyReadNote(session));
+    if (note.size() < 2 || note[0] != File)
+        return std::nullopt;
+    const int line = std::atoi(note[1].c_str());
+    return line > 0 ? std::optional<int>(line) : std::nullopt;
+}
+
+void ForgetPartlyRead(const Session& session) {
+    deleteFile(partlyReadNote(session));
 }
 
 void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete) {
@@ -156,6 +176,9 @@ SaveResult SaveInputFile(Session& session) {
 
     WriteFileNameWorkFile(session);
     session.DataChanged = false;
+    // The file now holds the whole session: it is no longer partly read.
+    if (PartlyReadLine(session, session.CurrentFile))
+        ForgetPartlyRead(session);
     const std::string base = BaseName(session.CurrentFile);
     for (const char* extension : {"out", "hyd", "ecn", "err", "dbg"})
         deleteFile(base + extension);

@@ -16,12 +16,21 @@ extern const int SaveOrder[SectionCount];
 struct LoadResult {
     // The box to show: a missing file or an unknown section header.
     std::optional<BoxRequest> box;
+    // The line at which reading stopped before the end of the file; 0 when it was read whole.
+    int stoppedAtLine = 0;
 };
 
 // Cuts the file named by CurrentFile into the work files. A missing file makes the session
 // untitled; an unknown header stops the load and keeps what was read before it. For a named
 // file, work file 16 then holds its path.
 LoadResult LoadInputFile(Session& session);
+
+// The line at which the load of File stopped, when the work files hold only the part of it
+// before that line; nothing when they hold all of it. The note lives in the work folder
+// beside the work files, so "ReOpen Last Session" finds it too, and every load clears it.
+std::optional<int> PartlyReadLine(const Session& session, const std::string& File);
+// Forgets the note, once the work files have been written over that file whole.
+void ForgetPartlyRead(const Session& session);
 
 // Copies the section whose header line is Line, and the records behind it up to a blank line
 // or the end of the input, to the work file at Path, replacing what it held.
@@ -37,7 +46,8 @@ struct SaveResult {
 };
 
 // Joins the work files into CurrentFile, writes work file 16, clears DataChanged and deletes
-// the result files of that name. When the file cannot be written, nothing else changes.
+// the result files of that name. When the file cannot be written, nothing else changes. It
+// asks nothing: the question before overwriting a partly read file is the caller's.
 SaveResult SaveInputFile(Session& session);
 
 } // namespace brooklet

@@ -19,6 +19,10 @@ struct FileDialogSettings {
     std::string FileName;
     std::string InitDir;
     bool CancelError = false;
+    // A save dialog asks before it returns a file that exists, as any save dialog does.
+    bool ConfirmOverwrite = false;
+    // Added, with its point, to a file name typed without an extension ("inp").
+    std::string DefaultExtension;
 };
 
 // The printer dialog's settings. Flags carry the options asked for on the way in and the

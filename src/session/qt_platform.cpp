@@ -1,6 +1,7 @@
 #include "session/qt_platform.h"
 
 #include "editing/widgets.h"
+#include "session/section_table.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -84,7 +85,9 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
     QFileDialog dialog(QApplication::activeWindow(), pathToQt(settings.DialogTitle),
                        pathToQt(settings.InitDir));
     dialog.setAcceptMode(mode);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the program asks its own question
+    // Without ConfirmOverwrite the program asks its own question.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !settings.ConfirmOverwrite);
+    dialog.setDefaultSuffix(pathToQt(settings.DefaultExtension));
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     const QStringList filters = qtFileFilters(settings.Filter);
     if (!filters.isEmpty()) {
@@ -97,7 +100,7 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
         dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return pathFromQt(dialog.selectedFiles().first());
+    return WithDefaultExtension(pathFromQt(dialog.selectedFiles().first()), settings.DefaultExtension);
 }
 
 } // namespace

@@ -88,10 +88,18 @@ void ClearWorkFiles(const Session& session) {
 }
 
 std::string BaseName(const std::string& Path) {
+    // Only the file's own name counts: a point in a folder name is no extension.
     const auto point = Path.rfind('.');
-    if (point == std::string::npos)
+    const auto separator = Path.find_last_of("/" + folderSeparator());
+    if (point == std::string::npos || (separator != std::string::npos && point < separator))
         return Path + ".";
     return Path.substr(0, point + 1);
+}
+
+std::string WithDefaultExtension(const std::string& Path, const std::string& extension) {
+    if (extension.empty() || BaseName(Path) != Path + ".")
+        return Path;
+    return Path + "." + extension;
 }
 
 std::string DirectoryPart(const std::string& Path) {

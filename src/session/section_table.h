@@ -100,8 +100,12 @@ void StartSession(Session& session, const std::string& startFolder);
 // Deletes every work file, "~filename.tmp" included, silently.
 void ClearWorkFiles(const Session& session);
 
-// The path cut behind its last point, the point kept; a path with no point gets one.
+// The path cut behind the last point of its file name, the point kept; a file name with no
+// point gets one. Points in folder names do not count.
 std::string BaseName(const std::string& Path);
+// The path with "." and the extension added when its file name has no extension, as a file
+// dialog does when the user types a bare name.
+std::string WithDefaultExtension(const std::string& Path, const std::string& extension);
 // The trimmed path up to and including its last folder separator; unchanged when it has none.
 std::string DirectoryPart(const std::string& Path);
 

@@ -9,7 +9,13 @@ namespace fs = std::filesystem;
 
 namespace brooklet {
 
+LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)) {
+    if (bytes_.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        pos_ = 3;
+}
+
 std::string LineReader::readLine() {
+    ++lineNumber_;
     const size_t start = pos_;
     while (pos_ < bytes_.size() && bytes_[pos_] != '\r' && bytes_[pos_] != '\n')
         ++pos_;
@@ -63,7 +69,33 @@ bool hasLineAfterFirst(const std::string& path) {
     return !reader.atEnd();
 }
 
-WriteResult writeFileAtomically(const std::string& path, const std::string& bytes) {
+namespace {
+
+// The file a path names in the end, following symbolic links (a bounded number of them, so a
+// loop of links ends).
+fs::path linkTarget(fs::path path) {
+    std::error_code ec;
+    for (int hops = 0; hops < 40 && fs::is_symlink(path, ec); ++hops) {
+        const fs::path target = fs::read_symlink(path, ec);
+        if (ec)
+            break;
+        path = target.is_absolute() ? target : path.parent_path() / target;
+    }
+    return path;
+}
+
+} // namespace
+
+WriteResult writeFileAtomically(const std::string& requested, const std::string& bytes) {
+    const std::string path = linkTarget(requested).string();
+    std::error_code linkError;
+    if (fs::is_symlink(path, linkError))
+        return {false, "its links lead round in a circle"};
+    std::error_code ec;
+    const fs::file_status existing = fs::status(path, ec);
+    const bool exists = !ec && fs::exists(existing);
+    if (exists && (existing.permissions() & fs::perms::owner_write) == fs::perms::none)
+        return {false, "it is read-only"};
     const std::string sibling = path + ".part";
     {
         std::ofstream out(sibling, std::ios::binary | std::ios::trunc);
@@ -77,7 +109,9 @@ WriteResult writeFileAtomically(const std::string& path, const std::string& byte
             return {false, "it cannot be written"};
         }
     }
-    std::error_code ec;
+    // The new file takes the place of the old one with the old one's permissions.
+    if (exists)
+        fs::permissions(sibling, existing.permissions(), ec);
     fs::rename(sibling, path, ec);
     if (ec) {
         deleteFile(sibling);

@@ -9,16 +9,20 @@
 namespace brooklet {
 
 // Reads a file line by line from bytes held in memory, so "at the end" can be asked after
-// every line, as the loaders need.
+// every line, as the loaders need. A UTF-8 byte-order mark at the start, which some editors
+// put there, is not part of the first line.
 class LineReader {
 public:
-    explicit LineReader(std::string bytes) : bytes_(std::move(bytes)) {}
+    explicit LineReader(std::string bytes);
     bool atEnd() const { return pos_ >= bytes_.size(); }
     std::string readLine();
+    // How many lines have been read, so the number of the line last read.
+    int lineNumber() const { return lineNumber_; }
 
 private:
     std::string bytes_;
     size_t pos_ = 0;
+    int lineNumber_ = 0;
 };
 
 // The whole file as bytes; nothing when it does not exist or cannot be read.
@@ -41,7 +45,8 @@ struct WriteResult {
 };
 
 // Writes the file whole by way of a sibling file that then replaces it, so a failed write
-// leaves the file as it was.
+// leaves the file as it was. A symbolic link is written through to the file it points to, which
+// keeps its permissions; a file without write permission is refused and left as it is.
 WriteResult writeFileAtomically(const std::string& path, const std::string& bytes);
 
 // Joins lines, each ended by CR LF.

@@ -3,6 +3,7 @@
 #include "support/program_folder.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace brooklet::test {
 namespace {
@@ -22,7 +23,8 @@ protected:
     std::vector<int> existing() const {
         std::vector<int> numbers;
         for (int i = 1; i <= 16; ++i)
-            if (exists(i)) numbers.push_back(i);
+            if (exists(i))
+                numbers.push_back(i);
         return numbers;
     }
 
@@ -115,6 +117,62 @@ TEST_F(InputFileTest, AnUnknownHeaderKeepsTheSectionsReadBeforeIt) {
     ASSERT_TRUE(result.box.has_value());
     EXPECT_EQ(result.box->text, "Section Header: NONSENSE: not found! ");
     EXPECT_EQ(existing(), (std::vector<int>{11, 16}));
+}
+
+TEST_F(InputFileTest, ALoadThatStopsNotesTheLineForThatFileOnly) {
+    const auto result = load(crlf({"Sub-Area:", "  A1", "", "", "Nonsense:", "  x"}));
+    EXPECT_EQ(result.stoppedAtLine, 5);
+    EXPECT_EQ(PartlyReadLine(session, folder.file("shed.inp")), 5);
+    EXPECT_EQ(PartlyReadLine(session, folder.file("other.inp")), std::nullopt);
+    // A whole load forgets it, as does a save into that file.
+    EXPECT_EQ(load(crlf({"Sub-Area:", "  A1"})).stoppedAtLine, 0);
+    EXPECT_EQ(PartlyReadLine(session, folder.file("shed.inp")), std::nullopt);
+    load(crlf({"Nonsense:"}));
+    EXPECT_EQ(PartlyReadLine(session, folder.file("shed.inp")), 1);
+    ASSERT_TRUE(SaveInputFile(session).ok);
+    EXPECT_EQ(PartlyReadLine(session, folder.file("shed.inp")), std::nullopt);
+}
+
+TEST_F(InputFileTest, AByteOrderMarkIsNotPartOfTheFirstHeader) {
+    const auto result = load("\xEF\xBB\xBF" + crlf({"Sub-Area:", "  A1", "", "Stream Reach:", "  R1"}));
+    EXPECT_FALSE(result.box.has_value());
+    EXPECT_EQ(work(11), crlf({"Sub-Area:", "  A1"}));
+    EXPECT_EQ(work(8), crlf({"Stream Reach:", "  R1"}));
+    // Work files written by another editor with a mark read the same way.
+    writeBytes(session.WorkFilePath[11], "\xEF\xBB\xBF" + crlf({"Sub-Area:", "  A2"}));
+    EXPECT_EQ(readLines(session.WorkFilePath[11]), (std::vector<std::string>{"Sub-Area:", "  A2"}));
+    EXPECT_EQ(readFirstLine(session.WorkFilePath[11]), "Sub-Area:");
+}
+
+TEST_F(InputFileTest, AWriteGoesThroughSymbolicLinksAndKeepsPermissions) {
+    namespace fs = std::filesystem;
+    const std::string target = folder.file("real.inp");
+    writeBytes(target, "old\r\n");
+    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    fs::create_symlink("real.inp", folder.file("relative.inp"));
+    fs::create_symlink(folder.file("relative.inp"), folder.file("chain.inp"));
+    ASSERT_TRUE(writeFileAtomically(folder.file("chain.inp"), "new\r\n").ok);
+    EXPECT_TRUE(fs::is_symlink(folder.file("chain.inp")));
+    EXPECT_TRUE(fs::is_symlink(folder.file("relative.inp")));
+    EXPECT_EQ(bytesOf(target), "new\r\n");
+    EXPECT_EQ(fs::status(target).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    // A loop of links ends, and writes nothing it was not asked to.
+    fs::create_symlink(folder.file("loop2"), folder.file("loop1"));
+    fs::create_symlink(folder.file("loop1"), folder.file("loop2"));
+    EXPECT_FALSE(writeFileAtomically(folder.file("loop1"), "x").ok);
+}
+
+TEST_F(InputFileTest, AReadOnlyFileIsRefusedAndLeftAsItIs) {
+    namespace fs = std::filesystem;
+    const std::string target = folder.file("locked.inp");
+    writeBytes(target, "kept\r\n");
+    fs::permissions(target, fs::perms::owner_read);
+    const WriteResult result = writeFileAtomically(target, "lost\r\n");
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.error, "it is read-only");
+    EXPECT_EQ(bytesOf(target), "kept\r\n");
+    EXPECT_FALSE(fileExists(target + ".part"));
 }
 
 TEST_F(InputFileTest, OnlyColumns1To40AreUpperCasedIntoTheBoxHeader) {

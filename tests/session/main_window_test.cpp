@@ -22,7 +22,8 @@ protected:
     QAction* fileItem(int index) { return item(indexedName("mnuFileItem", index)); }
     QAction* viewItem(int index) { return item(indexedName("mnuViewItem", index)); }
     bool menuShown(const char* name) {
-        if (auto* menu = main->findChild<QMenu*>(name)) return menu->menuAction()->isVisible();
+        if (auto* menu = main->findChild<QMenu*>(name))
+            return menu->menuAction()->isVisible();
         return item(name)->isVisible();
     }
     QStringList listItems() {
@@ -134,7 +135,8 @@ TEST_F(MainWindowTest, MenusCarryTheirCaptionsAtTheirIndexes) {
 TEST_F(MainWindowTest, EveryControlHasAnAccessibleName) {
     startMain();
     for (QWidget* widget : main->centralWidget()->findChildren<QWidget*>()) {
-        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_")) continue;
+        if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
+            continue;
         EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
     }
     EXPECT_EQ(control<QListWidget>(main, "CurrentLst")->accessibleName(),

@@ -96,8 +96,17 @@ TEST(BaseName, CutsBehindTheLastPointKeepingIt) {
     EXPECT_EQ(BaseName("/data/b.v2.inp"), "/data/b.v2.");
 }
 
-TEST(BaseName, APointOnlyInAFolderNameCutsThere) {
-    EXPECT_EQ(BaseName("/data/run.1/watershed"), "/data/run.");
+TEST(BaseName, APointInAFolderNameIsNoExtension) {
+    // Results of "/data/my.projects/shed" are "shed.out" in that folder, never "/data/my.out".
+    EXPECT_EQ(BaseName("/data/run.1/watershed"), "/data/run.1/watershed.");
+    EXPECT_EQ(BaseName("my.projects/shed"), "my.projects/shed.");
+    EXPECT_EQ(BaseName("/data/run.1/shed.inp"), "/data/run.1/shed.");
+}
+
+TEST(WithDefaultExtension, IsAddedOnlyToANameWithoutExtension) {
+    EXPECT_EQ(WithDefaultExtension("/data/my.projects/shed", "inp"), "/data/my.projects/shed.inp");
+    EXPECT_EQ(WithDefaultExtension("/data/shed.dat", "inp"), "/data/shed.dat");
+    EXPECT_EQ(WithDefaultExtension("/data/shed", ""), "/data/shed");
 }
 
 TEST(BaseName, ANameWithNoPointGetsOne) {

@@ -1,6 +1,8 @@
 #include "support/scripted_platform.h"
 
 #include "session/qt_platform.h"
+#include "session/section_table.h"
+#include "session/text_file.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +39,17 @@ std::optional<std::string> ScriptedPlatform::showOpenDialog(const FileDialogSett
 
 std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSettings& dialog) {
     saveDialogs.push_back(dialog);
-    return nextPick(savePicks, "save");
+    auto pick = nextPick(savePicks, "save");
+    // A save dialog that confirms overwrites asks, as the platform's dialog does, before it
+    // returns a file that exists; No leaves the dialog with no file.
+    if (pick && dialog.ConfirmOverwrite) {
+        const std::string file = WithDefaultExtension(*pick, dialog.DefaultExtension);
+        if (fileExists(file) &&
+            showBox({file + " already exists.\nDo you want to replace it?", dialog.DialogTitle,
+                     BoxButtons::YesNo, BoxIcon::Exclamation}) != BoxAnswer::Yes)
+            return std::nullopt;
+    }
+    return pick;
 }
 
 bool ScriptedPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {
