@@ -59,7 +59,9 @@ QComboBox* NetworkWindow::addList(int index, const QString& accessibleName) {
     // The list neither completes nor adds what is typed: the leave step decides.
     list->setCompleter(nullptr);
     list->setInsertPolicy(QComboBox::NoInsert);
-    list->setMinimumWidth(120);
+    // Sized for an identifier of ten characters, not by measuring thousands of items.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(12);
     nameControl(list, indexedName("cmbInp", index), accessibleName.simplified());
     setBackground(list, UntouchedColour);
     list->installEventFilter(this);
@@ -122,19 +124,22 @@ void NetworkWindow::addCommandButtons(const QString& deleteCaption, const QStrin
     outer->insertLayout(outer->indexOf(txtHelp), buttons);
 }
 
-void NetworkWindow::fillList(int index, const std::function<void(ListControl&)>& fill) {
-    // Gathered first and handed over at once: a list of thousands of names fills in one step.
+void NetworkWindow::fillList(std::initializer_list<int> indexes,
+                             const std::function<void(ListControl&)>& fill) {
+    // Gathered once and handed over at once: lists of thousands of names fill in one step.
     StringList names;
     fill(names);
     QStringList items;
     items.reserve(int(names.items.size()));
     for (const std::string& name : names.items)
         items << fromBytes(name);
-    QComboBox* list = cmbInp(index);
-    list->addItems(items);
-    // Filling the list chooses no item.
-    list->setCurrentIndex(-1);
-    list->setEditText(QString());
+    for (int index : indexes) {
+        QComboBox* list = cmbInp(index);
+        list->addItems(items);
+        // Filling the list chooses no item.
+        list->setCurrentIndex(-1);
+        list->setEditText(QString());
+    }
 }
 
 void NetworkWindow::showCode(int group, const std::string& code) {

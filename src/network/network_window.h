@@ -11,6 +11,7 @@
 #include "options/entry_window.h"
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 
 class QComboBox;
@@ -48,8 +49,8 @@ protected:
     // cmdDelCur, cmdCancel and cmdFinished in a row, with the help box below them.
     void addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
                            const QString& finishedCaption);
-    // Fills list Index by a fill routine of the identifier lists, all items at once.
-    void fillList(int index, const std::function<void(ListControl&)>& fill);
+    // Fills the lists of the indexes with what a fill routine of the identifier lists gives.
+    void fillList(std::initializer_list<int> indexes, const std::function<void(ListControl&)>& fill);
 
     // Group Group selects by the first letter of a code, in upper case: "Y" Yes, "N" No, empty
     // or a blank Blank; any other letter leaves the group as it is.

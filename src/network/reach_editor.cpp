@@ -117,11 +117,9 @@ void frmReaches::readSection(const std::vector<std::string>& lines) {
 
 void frmReaches::afterLoad() {
     txtHelp->hide();
-    for (int index : {1, 2, 14})
-        fillList(index, [this](ListControl& list) { FillReachList(session, list, false); });
-    for (int index : {3, 15})
-        fillList(index, [this](ListControl& list) { FillCrossSectionList(session, list); });
-    fillList(4, [this](ListControl& list) { FillStructureList(session, list); });
+    fillList({1, 2, 14}, [this](ListControl& list) { FillReachList(session, list, false); });
+    fillList({3, 15}, [this](ListControl& list) { FillCrossSectionList(session, list); });
+    fillList({4}, [this](ListControl& list) { FillStructureList(session, list); });
     const int picked = context.watershed.AlternatePickedRow;
     if (alternateMode() && picked >= 1 && picked <= ReachCount) {
         Selected = picked;

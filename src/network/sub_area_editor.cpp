@@ -85,9 +85,9 @@ void frmSubArea::readSection(const std::vector<std::string>& lines) {
 
 void frmSubArea::afterLoad() {
     txtHelp->hide();
-    fillList(1, [this](ListControl& list) { FillAreaReachList(session, list); });
-    fillList(2, [this](ListControl& list) { FillReachList(session, list, false); });
-    fillList(3, [this](ListControl& list) { FillStormRainList(session, tables.Rainfall, list); });
+    fillList({1}, [this](ListControl& list) { FillAreaReachList(session, list); });
+    fillList({2}, [this](ListControl& list) { FillReachList(session, list, false); });
+    fillList({3}, [this](ListControl& list) { FillStormRainList(session, tables.Rainfall, list); });
     const int picked = tables.AlternatePickedRow;
     if (alternateMode() && picked >= 1 && picked <= tables.SubAreaCount) {
         Selected = picked;
