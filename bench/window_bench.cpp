@@ -1,5 +1,5 @@
 // Windows on a large watershed: the main window's Open of a large input file with its list
-// refresh, and the identifier editor opened and accepted.
+// refresh, and the identifier, sub-area and reach editors opened and accepted.
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
@@ -74,6 +74,30 @@ void IdentifierEditorOpensAndAccepts(benchmark::State& state) {
     }
 }
 BENCHMARK(IdentifierEditorOpensAndAccepts)->Arg(5000)->Unit(benchmark::kMillisecond);
+
+// The sub-area and reach windows on 5,000 sub-areas (a third with sheet, channel and land use
+// records) and 5,000 reaches: load, the list fills, and Accept writing the work file.
+void NetworkEditorOpensAndAccepts(benchmark::State& state, const char* window) {
+    LargeSession session(static_cast<int>(state.range(0)));
+    session.context.session.CurrentFile = session.file;
+    LoadInputFile(session.context);
+    session.closeWindows();
+    for (auto _ : state) {
+        auto* editor = qobject_cast<EntryWindow*>(session.context.windows.ShowWindowAtOrigin(window));
+        editor->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        // Each opening counts its land use records on from the last; a session begins at 0.
+        state.PauseTiming();
+        session.context.watershed.LandUseStoreCount = 0;
+        state.ResumeTiming();
+    }
+}
+BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, SubArea, "frmSubArea")
+    ->Arg(5000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, Reaches, "frmReaches")
+    ->Arg(5000)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace brooklet::bench

@@ -3,6 +3,8 @@
 #include "editing/help_windows.h"
 #include "network/local_land_use_editor.h"
 #include "network/local_soil_editor.h"
+#include "network/reach_editor.h"
+#include "network/sub_area_editor.h"
 #include "options/duration_increment_editor.h"
 #include "options/global_output_editor.h"
 #include "options/identifier_editor.h"
@@ -34,6 +36,8 @@ void registerAllWindows(WindowHost& windows) {
                            [](AppContext& context) { return new frmLocalLanduse(context); });
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
+    windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
+    windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
 }
 
 } // namespace brooklet

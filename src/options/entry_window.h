@@ -48,7 +48,7 @@ public:
     int focusMovedTo() const { return focusMovedTo_; }
 
     // "Accept Changes": writes the section from the controls, sets DataChanged and closes.
-    void acceptChanges();
+    virtual void acceptChanges();
     // "No Changes": closes; nothing is written and DataChanged stays as it was.
     void noChanges();
 

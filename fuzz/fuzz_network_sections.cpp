@@ -1,0 +1,44 @@
+// The readers of the sub-area and stream reach sections on any bytes. None may crash, hang or
+// grow without bound, and a section once written must come back the same through its reader
+// and writer.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "network/reach.h"
+#include "network/sub_area.h"
+#include "session/text_file.h"
+
+namespace {
+
+std::vector<std::string> subAreaRoundTrip(const std::vector<std::string>& lines) {
+    brooklet::WatershedTables tables;
+    brooklet::ReadSubAreaSection(lines, tables);
+    return brooklet::SubAreaSectionRecords(tables);
+}
+
+std::vector<std::string> reachRoundTrip(const std::vector<std::string>& lines) {
+    brooklet::TextTable table;
+    int count = 0;
+    brooklet::ReadReachSection(lines, table, count);
+    return brooklet::ReachSectionRecords(table, count);
+}
+
+template <typename RoundTrip>
+void writtenComesBack(const std::vector<std::string>& lines, RoundTrip roundTrip) {
+    const std::vector<std::string> written = roundTrip(lines);
+    if (roundTrip(written) != written)
+        __builtin_trap();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    brooklet::LineReader reader(std::string(reinterpret_cast<const char*>(data), size));
+    std::vector<std::string> lines;
+    while (!reader.atEnd())
+        lines.push_back(reader.readLine());
+    writtenComesBack(lines, subAreaRoundTrip);
+    writtenComesBack(lines, reachRoundTrip);
+    return 0;
+}

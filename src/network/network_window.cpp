@@ -1,0 +1,259 @@
+#include "network/network_window.h"
+
+#include "editing/numbers.h"
+#include "editing/qt_lists.h"
+#include "session/app_context.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace brooklet {
+namespace {
+
+// The focus leaves for another window or for the list's own drop-down: the user has not left
+// the field.
+bool leavesTheField(const QFocusEvent* event) {
+    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+}
+
+bool isMoveKey(const QKeyEvent* key) {
+    return (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
+           !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+const char* const CodeCaptions[] = {"Yes", "No", "Blank"};
+
+} // namespace
+
+void FillAlternateChoices(AppContext& context, int Kind) {
+    QWidget* alternates = context.windows.loaded("frmAlternate");
+    if (!alternates)
+        return;
+    auto* list = alternates->findChild<QListWidget*>(indexedName("lstDisp", Kind == 1 ? 1 : 2));
+    if (!list)
+        return;
+    QtListWidgetList items(list);
+    fillAlternateEntries(context.watershed, context.CurrentAlternate, Kind, items);
+}
+
+NetworkWindow::NetworkWindow(AppContext& context, EntryDesign design, QWidget* parent)
+    : EntryWindow(context, std::move(design), parent) {}
+
+bool NetworkWindow::alternateMode() const {
+    return context.CurrentAlternate > 0;
+}
+
+QComboBox* NetworkWindow::addList(int index, const QString& accessibleName) {
+    auto* list = new QComboBox(this);
+    list->setEditable(true);
+    // The list neither completes nor adds what is typed: the leave step decides.
+    list->setCompleter(nullptr);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    // Sized for an identifier of ten characters, not by measuring thousands of items.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(12);
+    nameControl(list, indexedName("cmbInp", index), accessibleName.simplified());
+    setBackground(list, UntouchedColour);
+    list->installEventFilter(this);
+    cmbInp.add(index, list);
+    // The shadow box holds the text and colour of the field; it is never shown.
+    addBox(index, accessibleName.simplified())->hide();
+    return list;
+}
+
+QGroupBox* NetworkWindow::addCodeGroup(int group, const QString& accessibleName) {
+    auto* frame = new QGroupBox(this);
+    nameControl(frame, indexedName("Frame1", group - 1), accessibleName.simplified());
+    frame->setFlat(true);
+    auto* line = new QHBoxLayout(frame);
+    line->setContentsMargins(0, 0, 0, 0);
+    auto* buttons = new QButtonGroup(frame);
+    for (int k = 0; k < 3; ++k) {
+        const int index = 3 * group - 2 + k;
+        QRadioButton* option = addOption(Opt1, "Opt1", index, CodeCaptions[k], buttons);
+        option->setAccessibleDescription(accessibleName.simplified());
+        // Chosen with the mouse only; the keyboard's order of fields passes the groups by.
+        option->setFocusPolicy(Qt::ClickFocus);
+        option->installEventFilter(this);
+        line->addWidget(option);
+    }
+    Frame1.add(group - 1, frame);
+    return frame;
+}
+
+void NetworkWindow::addAlternateLabels() {
+    for (int index : {1, 2}) {
+        auto* label = new QLabel(index == 1 ? "Alternate" : QString(), this);
+        nameControl(label, indexedName("lblStatic", index), index == 1 ? "Alternate" : "Alternate name");
+        label->hide();
+        lblStatic.add(index, label);
+    }
+    QFont font = lblStatic(2)->font();
+    font.setBold(true);
+    lblStatic(2)->setFont(font);
+    addRow(lblStatic(1), {lblStatic(2)});
+}
+
+void NetworkWindow::addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
+                                      const QString& finishedCaption) {
+    cmdDelCur = new QPushButton(deleteCaption, this);
+    nameControl(cmdDelCur, "cmdDelCur", deleteCaption.simplified());
+    cmdCancel = new QPushButton(cancelCaption, this);
+    nameControl(cmdCancel, "cmdCancel", cancelCaption.simplified());
+    cmdFinished = new QPushButton(finishedCaption, this);
+    nameControl(cmdFinished, "cmdFinished", finishedCaption.simplified());
+    connect(cmdDelCur, &QPushButton::clicked, this, &NetworkWindow::deleteCurrent);
+    connect(cmdCancel, &QPushButton::clicked, this, &NetworkWindow::noChanges);
+    connect(cmdFinished, &QPushButton::clicked, this, &NetworkWindow::acceptChanges);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDelCur);
+    buttons->addStretch();
+    buttons->addWidget(cmdCancel);
+    buttons->addWidget(cmdFinished);
+    auto* outer = static_cast<QVBoxLayout*>(layout());
+    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+}
+
+void NetworkWindow::fillList(std::initializer_list<int> indexes,
+                             const std::function<void(ListControl&)>& fill) {
+    // Gathered once and handed over at once: lists of thousands of names fill in one step.
+    StringList names;
+    fill(names);
+    QStringList items;
+    items.reserve(int(names.items.size()));
+    for (const std::string& name : names.items)
+        items << fromBytes(name);
+    for (int index : indexes) {
+        QComboBox* list = cmbInp(index);
+        list->addItems(items);
+        // Filling the list chooses no item.
+        list->setCurrentIndex(-1);
+        list->setEditText(QString());
+    }
+}
+
+void NetworkWindow::showCode(int group, const std::string& code) {
+    const char letter = code.empty() ? ' ' : toUpper(code.substr(0, 1))[0];
+    if (letter == 'Y')
+        Opt1(3 * group - 2)->setChecked(true);
+    else if (letter == 'N')
+        Opt1(3 * group - 1)->setChecked(true);
+    else if (letter == ' ')
+        Opt1(3 * group)->setChecked(true);
+}
+
+void NetworkWindow::storeCode(int group, std::string& code) const {
+    if (Opt1(3 * group - 2)->isChecked())
+        code = "Y";
+    else if (Opt1(3 * group - 1)->isChecked())
+        code = "N";
+    else if (Opt1(3 * group)->isChecked())
+        code = " ";
+}
+
+void NetworkWindow::blankCodes() {
+    for (int group = 1; group <= int(Frame1.all().size()); ++group)
+        Opt1(3 * group)->setChecked(true);
+}
+
+void NetworkWindow::listFollowsBox(int index) {
+    if (QComboBox* list = cmbInp(index)) {
+        list->setEditText(txtInp(index)->text());
+        listTakesColour(index);
+    }
+}
+
+void NetworkWindow::listTakesColour(int index) {
+    if (QComboBox* list = cmbInp(index))
+        setBackground(list, background(txtInp(index)));
+}
+
+std::string NetworkWindow::boxText(int index) const {
+    return toBytes(txtInp(index)->text());
+}
+
+std::string NetworkWindow::listText(int index) const {
+    return toBytes(cmbInp(index)->currentText());
+}
+
+bool NetworkWindow::boxBlank(int index) const {
+    return trim(boxText(index)).empty();
+}
+
+void NetworkWindow::setBoxText(int index, const std::string& text) {
+    txtInp(index)->setText(fromBytes(text));
+}
+
+void NetworkWindow::clearBox(int index) {
+    txtInp(index)->clear();
+    setBackground(txtInp(index), UntouchedColour);
+}
+
+void NetworkWindow::focusBox(int index) {
+    if (QComboBox* list = cmbInp(index))
+        list->setFocus(Qt::OtherFocusReason);
+    else
+        EntryWindow::focusBox(index);
+}
+
+int NetworkWindow::listIndexOf(QObject* control) const {
+    for (const auto& [index, list] : cmbInp.all())
+        if (list == control)
+            return index;
+    return -1;
+}
+
+void NetworkWindow::listKey(int index) {
+    movingOn_ = true;
+    const bool valid = leaveList(index);
+    focusBox(nextBox(valid ? index : index - 1));
+    movingOn_ = false;
+}
+
+bool NetworkWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (const int list = listIndexOf(watched); list >= 0) {
+        if (type == QEvent::KeyPress && isMoveKey(static_cast<QKeyEvent*>(event))) {
+            listKey(list);
+            return true;
+        }
+        if (type == QEvent::FocusIn && leavesTheField(static_cast<QFocusEvent*>(event)))
+            listFollowsBox(list);
+        else if (type == QEvent::FocusOut && !movingOn_ && leavesTheField(static_cast<QFocusEvent*>(event)))
+            leaveList(list);
+        return EntryWindow::eventFilter(watched, event);
+    }
+    if (qobject_cast<QRadioButton*>(watched)) {
+        if (type == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
+            focusBox(optionFocusBox());
+        return EntryWindow::eventFilter(watched, event);
+    }
+    for (const auto& [index, box] : txtInp.all()) {
+        if (box != watched)
+            continue;
+        if (type == QEvent::KeyPress && isMoveKey(static_cast<QKeyEvent*>(event))) {
+            movingOn_ = true;
+            const bool handled = EntryWindow::eventFilter(watched, event);
+            movingOn_ = false;
+            return handled;
+        }
+        if (type == QEvent::FocusOut && !movingOn_ && !Accepting &&
+            leavesTheField(static_cast<QFocusEvent*>(event)))
+            checkBox(index);
+        break;
+    }
+    return EntryWindow::eventFilter(watched, event);
+}
+
+} // namespace brooklet
