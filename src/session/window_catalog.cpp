@@ -10,6 +10,7 @@
 #include "options/verification_editor.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/storm_editor.h"
 
 namespace brooklet {
 
@@ -18,15 +19,18 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmDurInc", [](AppContext& context) { return new frmDurInc(context); });
     windows.registerWindow("frmTimeA", [](AppContext& context) { return new frmTimeA(context); });
     windows.registerWindow("frmGlobal", [](AppContext& context) { return new frmGlobal(context); });
-    windows.registerWindow("frmVerification", [](AppContext& context) { return new frmVerification(context); });
+    windows.registerWindow("frmVerification",
+                           [](AppContext& context) { return new frmVerification(context); });
     windows.registerWindow("frmAbout", [](AppContext& context) { return new frmAbout(context); });
     windows.registerWindow("frmDiagram", [](AppContext& context) { return new frmDiagram(context); });
     for (const QString& name : TextHelpWindow::names())
         windows.registerWindow(name, [name](AppContext&) { return new TextHelpWindow(name); });
     windows.registerWindow("frmFileDisp", [](AppContext& context) { return new frmFileDisp(context); });
-    windows.registerWindow("frmLocalLanduse", [](AppContext& context) { return new frmLocalLanduse(context); });
+    windows.registerWindow("frmLocalLanduse",
+                           [](AppContext& context) { return new frmLocalLanduse(context); });
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
+    windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
 }
 
 } // namespace brooklet
