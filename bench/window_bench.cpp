@@ -1,5 +1,6 @@
 // Windows on a large watershed: the main window's Open of a large input file with its list
-// refresh, and the identifier, sub-area and reach editors opened and accepted.
+// refresh, the identifier, sub-area and reach editors opened and accepted, and the storm
+// window on a large storm section.
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
@@ -11,6 +12,10 @@
 #include "app/main_window.h"
 #include "session/text_file.h"
 #include "app/window_catalog.h"
+#include "tables/storm_analysis.h"
+#include "tables/storm_editor.h"
+
+#include <QClipboard>
 
 namespace brooklet::bench {
 namespace {
@@ -98,6 +103,31 @@ BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, SubArea, "frmSubArea")
 BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, Reaches, "frmReaches")
     ->Arg(5000)
     ->Unit(benchmark::kMillisecond);
+// The storm window opened on a storm section of n rows, a row for the last pair pasted in
+// (which looks the pair up through every row and writes into it), and Accept.
+void StormWindowOpensTakesARowAndAccepts(benchmark::State& state) {
+    LargeSession session(10);
+    const int rows = static_cast<int>(state.range(0));
+    std::vector<StormRecord> storms;
+    for (int i = 1; i <= rows; ++i)
+        storms.push_back(
+            {"S" + std::to_string(i / 20), "G" + std::to_string(i % 20), "0.", "5.2", "Type II", "2", "3.1"});
+    const std::string& workFile = session.context.session.WorkFilePath[StormSection];
+    const std::string section = joinLines(WriteStormSection(storms));
+    const StormRecord& last = storms.back();
+    QApplication::clipboard()->setText(
+        QString::fromStdString(last[0] + "\t" + last[1] + "\t1\t6\tType II\t3\t2.9"));
+    for (auto _ : state) {
+        state.PauseTiming();
+        writeFileAtomically(workFile, section);
+        state.ResumeTiming();
+        auto* storm = qobject_cast<frmStorm*>(session.context.windows.ShowWindowAtOrigin("frmStorm"));
+        storm->pasteRows();
+        storm->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+BENCHMARK(StormWindowOpensTakesARowAndAccepts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace brooklet::bench

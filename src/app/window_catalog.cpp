@@ -12,6 +12,7 @@
 #include "options/verification_editor.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/storm_editor.h"
 
 namespace brooklet {
 
@@ -38,6 +39,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
     windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
     windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
+    windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
 }
 
 } // namespace brooklet

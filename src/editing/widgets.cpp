@@ -1,6 +1,7 @@
 #include "editing/widgets.h"
 
 #include <QFile>
+#include <QFocusEvent>
 #include <QPalette>
 
 namespace brooklet {
@@ -40,6 +41,10 @@ void setBackground(QWidget* control, Rgb colour) {
 
 Rgb background(const QWidget* control) {
     return fromQColor(control->palette().color(QPalette::Base));
+}
+
+bool leavesTheField(const QFocusEvent* event) {
+    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
 }
 
 } // namespace brooklet

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QWidget>
 
+class QFocusEvent;
+
 #include <map>
 #include <string>
 
@@ -36,6 +38,15 @@ Rgb fromQColor(const QColor& colour);
 void setBackground(QWidget* control, Rgb colour);
 Rgb background(const QWidget* control);
 
+// Screen pixels of a width given in twips, at 96 dots an inch.
+constexpr int twips(int width) {
+    return width / 15;
+}
+
+// Whether a focus loss is the user leaving the field: not when the focus goes to another
+// window or to the field's own drop-down.
+bool leavesTheField(const QFocusEvent* event);
+
 // A control array: controls that share a name and differ by a meaningful index.
 template <typename T> class ControlArray {
 public:
@@ -56,7 +67,8 @@ template <typename T>
 void CopyControlState(const ControlArray<T>& Source, ControlArray<T>& Target, int Index) {
     T* source = Source(Index);
     T* target = Target(Index);
-    if (!source || !target) return;
+    if (!source || !target)
+        return;
     setBackground(target, background(source));
     target->setText(source->text());
 }

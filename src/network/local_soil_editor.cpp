@@ -22,10 +22,6 @@ namespace {
 constexpr int IdentifierBox = 1;
 constexpr int FirstGroup = 2;
 constexpr int LastGroup = 5;
-// Screen pixels of a column width given in twips, at 96 dots an inch.
-constexpr int twips(int width) {
-    return width / 15;
-}
 
 const QString GroupsLabel = "Hydrologic Soil Groups (HSG)";
 

@@ -16,15 +16,6 @@
 #include <QVBoxLayout>
 
 namespace brooklet {
-namespace {
-
-// The focus leaves for another window or for the list's own drop-down: the user has not left
-// the field.
-bool leavesTheField(const QFocusEvent* event) {
-    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
-}
-
-} // namespace
 
 LocalTableWindow::LocalTableWindow(AppContext& context, EntryDesign design, int previousAtLoad,
                                    QWidget* parent)

@@ -20,12 +20,6 @@
 namespace brooklet {
 namespace {
 
-// The focus leaves for another window or for the list's own drop-down: the user has not left
-// the field.
-bool leavesTheField(const QFocusEvent* event) {
-    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
-}
-
 bool isMoveKey(const QKeyEvent* key) {
     return (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
            !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
