@@ -1,0 +1,243 @@
+#include "plots/schematic_window.h"
+
+#include "editing/numbers.h"
+#include "editing/widgets.h"
+#include "plots/schematic_drawing.h"
+#include "session/app_context.h"
+
+#include <QActionGroup>
+#include <QHelpEvent>
+#include <QImage>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolBar>
+#include <QToolTip>
+
+namespace brooklet {
+
+// TopoPic: the drawing surface. It paints through the one drawing routine and hands its mouse
+// to the window's tools.
+class SchematicSurface : public QWidget {
+public:
+    explicit SchematicSurface(frmTopoModel* window) : QWidget(window), window_(window) {
+        setMouseTracking(true);
+        setFocusPolicy(Qt::StrongFocus);
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        drawSchematic(painter, window_->schematic_, window_->schematic_.scale(), window_->background_,
+                      window_->windowWidthTwips());
+        if (auto box = window_->zoomBox()) {
+            const SurfaceScale& scale = window_->schematic_.scale();
+            painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(QRectF(QPointF(scale.toPixelX(box->first.x), scale.toPixelY(box->first.y)),
+                                    QPointF(scale.toPixelX(box->second.x), scale.toPixelY(box->second.y)))
+                                 .normalized());
+        }
+    }
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton)
+            window_->mouseDown(event->position());
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (event->buttons() & Qt::LeftButton)
+            window_->mouseMove(event->position());
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton)
+            window_->mouseUp(event->position());
+    }
+    void resizeEvent(QResizeEvent*) override { window_->surfaceResized(); }
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip) {
+            auto* help = static_cast<QHelpEvent*>(event);
+            const QString tip = window_->tipAt(help->pos());
+            if (tip.isEmpty())
+                QToolTip::hideText();
+            else
+                QToolTip::showText(help->globalPos(), tip, this);
+            return true;
+        }
+        return QWidget::event(event);
+    }
+
+private:
+    frmTopoModel* window_;
+};
+
+namespace {
+
+QAction* menuItem(QMenu* menu, const QString& name, const QString& caption) {
+    QAction* action = menu->addAction(caption);
+    nameControl(action, name, QString(caption).remove('&'));
+    return action;
+}
+
+QAction* toggleItem(QMenu* menu, const QString& name, const QString& caption) {
+    QAction* action = menuItem(menu, name, caption);
+    action->setCheckable(true);
+    action->setChecked(true);
+    return action;
+}
+
+} // namespace
+
+frmTopoModel::frmTopoModel(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
+    setObjectName("frmTopoModel");
+    setWindowTitle("Brooklet Watershed Schematic");
+    setAccessibleName(windowTitle());
+
+    QMenu* mnuFile = menuBar()->addMenu("&File");
+    nameControl(mnuFile, "mnuFile", "File");
+    QAction* mnuSaveAs = menuItem(mnuFile, "mnuSaveAs", "Save &As...");
+    QAction* mnuPrint = menuItem(mnuFile, "mnuPrint", "&Print");
+    mnuPrint->setShortcut(QKeySequence::Print);
+    mnuFile->addSeparator()->setObjectName("mnuNull");
+    QAction* mnuExit = menuItem(mnuFile, "mnuExit", "E&xit");
+    QMenu* mnuEdit = menuBar()->addMenu("&Edit");
+    nameControl(mnuEdit, "mnuEdit", "Edit");
+    QAction* mnuCopy = menuItem(mnuEdit, "mnuCopy", "&Copy");
+    mnuCopy->setShortcut(QKeySequence::Copy);
+    QMenu* mnuView = menuBar()->addMenu("&View");
+    nameControl(mnuView, "mnuView", "View");
+    mnuLabels = toggleItem(mnuView, "mnuLabels", "&Labels");
+    mnuLegend = toggleItem(mnuView, "mnuLegend", "L&egend");
+    mnuSubAreas = toggleItem(mnuView, "mnuSubAreas", "&Sub-Areas");
+    connect(mnuSaveAs, &QAction::triggered, this, &frmTopoModel::saveSchematicAs);
+    connect(mnuPrint, &QAction::triggered, this, &frmTopoModel::printSchematic);
+    connect(mnuExit, &QAction::triggered, this, &QWidget::close);
+    connect(mnuCopy, &QAction::triggered, this, &frmTopoModel::copySchematic);
+    for (QAction* item : {mnuLabels, mnuLegend, mnuSubAreas})
+        connect(item, &QAction::triggered, this, [this, item] { toggle(item); });
+
+    GraphToolBar = addToolBar("Schematic tools");
+    nameControl(GraphToolBar, "GraphToolBar", "Schematic tools");
+    GraphToolBar->setMovable(false);
+    GraphToolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    const std::pair<const char*, const char*> tools[] = {{"Frame", "Frame All"},  {"ZoomIn", "Zoom In"},
+                                                         {"ZoomOut", "Zoom Out"}, {"Pan", "Pan"},
+                                                         {"Drag", "Drag"},        {"Pointer", "Pointer"}};
+    for (const auto& [key, caption] : tools) {
+        QAction* tool = GraphToolBar->addAction(caption);
+        nameControl(tool, key, caption);
+        connect(tool, &QAction::triggered, this, [this, key = QString(key)] { toolClicked(key); });
+    }
+
+    TopoPic = new SchematicSurface(this);
+    nameControl(TopoPic, "TopoPic", "Watershed schematic");
+    setCentralWidget(TopoPic);
+    resize(800, 600);
+}
+
+QWidget* frmTopoModel::surface() const {
+    return TopoPic;
+}
+
+double frmTopoModel::windowWidthTwips() const {
+    return width() * TwipsPerPixel;
+}
+
+bool frmTopoModel::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate)
+        Form_Activate();
+    return QMainWindow::event(event);
+}
+
+void frmTopoModel::Form_Activate() {
+    if (closing_ || activating_)
+        return;
+    activating_ = true;
+    schematic_ = Schematic();
+    TopoPic->update();
+    const std::string& file = context_.session.CurrentFile;
+    if (trim(file).empty()) {
+        closing_ = true;
+        close();
+        if (QWidget* main = context_.windows.loaded("frmMain")) {
+            main->raise();
+            main->activateWindow();
+        }
+        activating_ = false;
+        return;
+    }
+    if (QWidget* main = context_.windows.loaded("frmMain"); main && !main->isMinimized())
+        resize(main->size());
+    NetworkReading reading = LoadNetwork(file);
+    if (reading.error) {
+        closing_ = true;
+        context_.platform.showBox(*reading.error);
+        close();
+        activating_ = false;
+        return;
+    }
+    schematic_ = Schematic(std::move(reading.network));
+    schematic_.Labels = mnuLabels->isChecked();
+    schematic_.Legend = mnuLegend->isChecked();
+    mnuSubAreas->setChecked(true);
+    BuildSchematic();
+    activating_ = false;
+}
+
+void frmTopoModel::BuildSchematic() {
+    schematic_.SubAreas = mnuSubAreas->isChecked();
+    schematic_.Labels = mnuLabels->isChecked();
+    schematic_.Legend = mnuLegend->isChecked();
+    schematic_.setSurfaceSize(TopoPic->width(), TopoPic->height());
+    schematic_.layOut();
+    FitView();
+}
+
+void frmTopoModel::FitView() {
+    schematic_.FitView();
+    TopoPic->update();
+}
+
+void frmTopoModel::ApplyView() {
+    schematic_.ApplyView();
+    TopoPic->update();
+}
+
+QString frmTopoModel::tipAt(QPointF pixel) const {
+    const int index = schematic_.elementAt(schematic_.scale().toUnits(pixel.x(), pixel.y()));
+    return index ? fromBytes(schematic_.network().element(index).Name + " ") : QString();
+}
+
+QImage frmTopoModel::surfaceImage(Rgb background) const {
+    QImage image(TopoPic->size(), QImage::Format_ARGB32);
+    QPainter painter(&image);
+    drawSchematic(painter, schematic_, schematic_.scale(), background, windowWidthTwips());
+    return image;
+}
+
+void frmTopoModel::surfaceResized() {
+    if (isMinimized())
+        return;
+    BuildSchematic();
+}
+
+void frmTopoModel::toggle(QAction* item) {
+    (void)item; // the check mark is reversed by the menu itself
+    BuildSchematic();
+}
+
+std::optional<std::pair<DrawingPoint, DrawingPoint>> frmTopoModel::zoomBox() const {
+    if (!boxShown_)
+        return std::nullopt;
+    return std::make_pair(start_, last_);
+}
+
+void frmTopoModel::toolClicked(const QString&) {}
+void frmTopoModel::mouseDown(QPointF) {}
+void frmTopoModel::mouseMove(QPointF) {}
+void frmTopoModel::mouseUp(QPointF) {}
+void frmTopoModel::copySchematic() {}
+void frmTopoModel::CopySchematic() {}
+void frmTopoModel::printSchematic() {}
+void frmTopoModel::saveSchematicAs() {}
+
+} // namespace brooklet
