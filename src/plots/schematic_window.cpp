@@ -4,6 +4,7 @@
 #include "editing/widgets.h"
 #include "plots/schematic_drawing.h"
 #include "session/app_context.h"
+#include "session/qt_platform.h"
 
 #include <QActionGroup>
 #include <QHelpEvent>
@@ -11,6 +12,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPixmap>
 #include <QToolBar>
 #include <QToolTip>
 
@@ -231,12 +233,134 @@ std::optional<std::pair<DrawingPoint, DrawingPoint>> frmTopoModel::zoomBox() con
     return std::make_pair(start_, last_);
 }
 
-void frmTopoModel::toolClicked(const QString&) {}
-void frmTopoModel::mouseDown(QPointF) {}
-void frmTopoModel::mouseMove(QPointF) {}
-void frmTopoModel::mouseUp(QPointF) {}
-void frmTopoModel::copySchematic() {}
-void frmTopoModel::CopySchematic() {}
+namespace {
+
+// The cursor of a zoom tool: a magnifier with a plus or a minus.
+QCursor zoomCursor(bool in) {
+    QPixmap picture(32, 32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::black, 2));
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QRectF(2, 2, 18, 18));
+    painter.drawLine(QPointF(17, 17), QPointF(29, 29));
+    painter.drawLine(QPointF(6, 11), QPointF(16, 11));
+    if (in)
+        painter.drawLine(QPointF(11, 6), QPointF(11, 16));
+    return QCursor(picture, 11, 11);
+}
+
+} // namespace
+
+void frmTopoModel::toolClicked(const QString& key) {
+    if (key == "Frame") {
+        FitView();
+    } else if (key == "ZoomIn" || key == "ZoomOut") {
+        ZoomArmed = -1;
+        ZoomMode = key == "ZoomIn" ? 1 : 2;
+        PanOn = DragOn = 0;
+        TopoPic->setCursor(zoomCursor(ZoomMode == 1));
+    } else if (key == "Pan") {
+        PanOn = 1;
+        ZoomArmed = ZoomMode = DragOn = 0;
+        TopoPic->setCursor(Qt::CrossCursor);
+    } else if (key == "Drag") {
+        DragOn = 1;
+        ZoomMode = PanOn = 0;
+        TopoPic->setCursor(Qt::OpenHandCursor);
+    } else if (key == "Pointer") {
+        TopoPic->unsetCursor();
+        ZoomArmed = ZoomMode = 0;
+    }
+}
+
+void frmTopoModel::mouseDown(QPointF pixel) {
+    const DrawingPoint point = schematic_.scale().toUnits(pixel.x(), pixel.y());
+    if (ZoomMode >= 1 && ZoomArmed)
+        start_ = last_ = end_ = point;
+    if (DragOn)
+        last_ = point;
+}
+
+void frmTopoModel::mouseMove(QPointF pixel) {
+    const DrawingPoint point = schematic_.scale().toUnits(pixel.x(), pixel.y());
+    if (ZoomMode >= 1) {
+        if (ZoomArmed) {
+            last_ = start_;
+            ZoomArmed = 0;
+        }
+        // The box follows the mouse from its start.
+        last_ = point;
+        boxShown_ = true;
+        TopoPic->update();
+    }
+    if (DragOn) {
+        const double dx = last_.x - point.x, dy = last_.y - point.y;
+        schematic_.ViewLeft += dx;
+        schematic_.ViewRight += dx;
+        schematic_.ViewTop += dy;
+        schematic_.ViewBottom += dy;
+        ApplyView();
+        // The point taken up stays under the mouse.
+        last_ = schematic_.scale().toUnits(pixel.x(), pixel.y());
+    }
+}
+
+void frmTopoModel::mouseUp(QPointF pixel) {
+    const DrawingPoint point = schematic_.scale().toUnits(pixel.x(), pixel.y());
+    if (ZoomMode >= 1) {
+        boxShown_ = false;
+        ZoomArmed = 0;
+        end_ = point;
+        const double X1 = std::min(start_.x, end_.x), X2 = std::max(start_.x, end_.x);
+        const double Y1 = std::min(start_.y, end_.y), Y2 = std::max(start_.y, end_.y);
+        const double Cx = (X1 + X2) / 2, Cy = (Y1 + Y2) / 2;
+        // The zoom steps go by what the surface shows.
+        const SurfaceScale& scale = schematic_.scale();
+        double halfWidth = 0, halfHeight = 0;
+        if (ZoomMode == 1 && (X2 - X1 < 20 || Y2 - Y1 < 20)) {
+            halfWidth = 3 * 0.1 * scale.ScaleWidth;
+            halfHeight = 3 * 0.1 * scale.ScaleHeight;
+        } else if (ZoomMode == 1) {
+            halfWidth = (X2 - X1) / 2;
+            halfHeight = (Y2 - Y1) / 2;
+        } else {
+            halfWidth = 0.6 * scale.ScaleWidth;
+            halfHeight = 0.6 * scale.ScaleHeight;
+        }
+        schematic_.ViewLeft = Cx - halfWidth;
+        schematic_.ViewRight = Cx + halfWidth;
+        schematic_.ViewTop = Cy - halfHeight;
+        schematic_.ViewBottom = Cy + halfHeight;
+        ZoomArmed = -1;
+        ApplyView();
+    } else if (PanOn) {
+        const double dx = point.x - (schematic_.ViewLeft + schematic_.ViewRight) / 2;
+        const double dy = point.y - (schematic_.ViewTop + schematic_.ViewBottom) / 2;
+        schematic_.ViewLeft += dx;
+        schematic_.ViewRight += dx;
+        schematic_.ViewTop += dy;
+        schematic_.ViewBottom += dy;
+        ApplyView();
+    }
+}
+
+// The copy is drawn on white; the surface goes back to its own colour.
+void frmTopoModel::copySchematic() {
+    background_ = CopyBackground;
+    ApplyView();
+    CopySchematic();
+    background_ = SchematicBackground;
+    ApplyView();
+}
+
+void frmTopoModel::CopySchematic() {
+    const Bitmap picture = fromQImage(surfaceImage(background_));
+    context_.platform.clearClipboard();
+    context_.platform.setClipboardBitmap(picture);
+}
+
 void frmTopoModel::printSchematic() {}
 void frmTopoModel::saveSchematicAs() {}
 

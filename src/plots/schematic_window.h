@@ -9,6 +9,7 @@
 
 #include "editing/colours.h"
 #include "plots/schematic.h"
+#include "plots/schematic_drawing.h"
 
 class QAction;
 class QImage;
@@ -69,7 +70,7 @@ private:
 
     AppContext& context_;
     Schematic schematic_;
-    Rgb background_ = {255, 192, 128};
+    Rgb background_ = SchematicBackground;
     bool closing_ = false;
     bool activating_ = false;
     DrawingPoint start_, last_, end_;

@@ -117,7 +117,7 @@ TEST_F(SchematicTest, PicturesKeepTheirSizeInPixels) {
     const NetworkElement& outlet = schematic.network().element(1);
     // The outlet's picture is drawn where its place falls on the surface.
     const QImage image = window->surfaceImage(SchematicBackground);
-    const QPoint centre = pixelOf(window, outlet.Left, outlet.Top) + QPoint(16, 24);
+    const QPoint centre = pixelOf(window, outlet.Left, outlet.Top) + QPoint(4, 16);
     EXPECT_NE(image.pixelColor(centre), QColor(255, 192, 128));
 }
 
