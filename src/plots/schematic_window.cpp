@@ -2,6 +2,7 @@
 
 #include "editing/numbers.h"
 #include "editing/widgets.h"
+#include "plots/print_dialog.h"
 #include "plots/schematic_drawing.h"
 #include "session/app_context.h"
 #include "session/qt_platform.h"
@@ -361,7 +362,27 @@ void frmTopoModel::CopySchematic() {
     context_.platform.setClipboardBitmap(picture);
 }
 
-void frmTopoModel::printSchematic() {}
+// The schematic goes to the present printer as the picture a copy takes, after a blank line.
+void frmTopoModel::printSchematic() {
+    clsPrintDialog dialog(context_.platform);
+    dialog.Flags = PrintPageNumbersFlag | PrintNoSelectionFlag;
+    dialog.setMin(1);
+    dialog.CancelError = true;
+    if (!dialog.ShowPrinter())
+        return;
+    context_.platform.clearClipboard();
+    background_ = CopyBackground;
+    ApplyView();
+    CopySchematic();
+    if (std::unique_ptr<PrintTarget> printer = context_.platform.openPresentPrinter()) {
+        printer->printLine(" ");
+        if (const std::optional<Bitmap> picture = context_.platform.clipboardBitmap())
+            printer->drawBitmap(*picture, 0, 0);
+        printer->endDoc();
+    }
+    background_ = SchematicBackground;
+    ApplyView();
+}
 void frmTopoModel::saveSchematicAs() {}
 
 } // namespace brooklet

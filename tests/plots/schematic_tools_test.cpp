@@ -208,3 +208,41 @@ TEST_F(SchematicToolsTest, AResizeLaysTheSchematicOutAgainForTheNewSize) {
 
 } // namespace
 } // namespace brooklet::test
+
+namespace brooklet::test {
+namespace {
+
+TEST_F(SchematicToolsTest, PrintAsksThroughThePrintDialogAndPrintsTheCopyOnWhite) {
+    PrintRangeRecord accepted;
+    accepted.Flags = 6;
+    accepted.printer = platform.present;
+    platform.printRangeAnswers.push_back(accepted);
+    control<QAction>(window, "mnuPrint")->trigger();
+    ASSERT_EQ(platform.printRangeDialogs.size(), 1u);
+    EXPECT_EQ(platform.printRangeDialogs[0].Flags, 6);
+    EXPECT_EQ(platform.printRangeDialogs[0].MinPage, 1);
+    EXPECT_EQ(platform.printRangeDialogs[0].MaxPage, 1);
+    ASSERT_EQ(platform.printJobs.size(), 1u);
+    const ScriptedPlatform::PrintJob& job = platform.printJobs[0];
+    EXPECT_EQ(job.printer, "Office Laser");
+    EXPECT_EQ(job.pages, (std::vector<std::vector<std::string>>{{" "}}));
+    ASSERT_EQ(job.bitmaps.size(), 1u);
+    EXPECT_EQ(job.bitmaps[0].x, 0);
+    EXPECT_EQ(job.bitmaps[0].y, 0);
+    EXPECT_EQ(job.bitmaps[0].picture.width, pic->width());
+    EXPECT_EQ(job.bitmaps[0].picture.pixel(pic->width() / 2, pic->height() - 2), 0xFFFFFFFFu);
+    EXPECT_TRUE(job.ended);
+    EXPECT_EQ(platform.clipboardClears, 2);
+    EXPECT_EQ(window->backgroundColour(), SchematicBackground);
+}
+
+TEST_F(SchematicToolsTest, ACancelledPrintDoesNothing) {
+    platform.printRangeAnswers.push_back(std::nullopt);
+    control<QAction>(window, "mnuPrint")->trigger();
+    EXPECT_TRUE(platform.printJobs.empty());
+    EXPECT_EQ(platform.clipboardClears, 0);
+    EXPECT_FALSE(platform.clipboard);
+}
+
+} // namespace
+} // namespace brooklet::test
