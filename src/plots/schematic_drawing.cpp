@@ -4,6 +4,8 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -58,6 +60,21 @@ void drawLegend(QPainter& painter, const SurfaceScale& scale, double windowWidth
         painter.drawText(QPointF(x, label.y() + (LegendPicturePixels + metrics.ascent()) / 2),
                          fromBytes(texts[static_cast<size_t>(i - 1)]));
     }
+}
+
+// On a surface of pixels each picture is drawn once and then copied; SVG, PDF and the printer
+// get the shapes themselves.
+const QImage& cachedPicture(int picture) {
+    static QImage pictures[DiversionPicture + 1];
+    QImage& image = pictures[picture];
+    if (image.isNull()) {
+        image = QImage(PicturePixels, PicturePixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing, true);
+        drawElementPicture(painter, picture, QRectF(0, 0, PicturePixels, PicturePixels));
+    }
+    return image;
 }
 
 } // namespace
@@ -137,12 +154,16 @@ void drawSchematic(QPainter& painter, const Schematic& schematic, const SurfaceS
     // over (a label reaches at most a few hundred pixels to the right).
     const QRectF reach = surface.adjusted(-400, -PicturePixels, 0, 0);
     const Network& network = schematic.network();
+    const bool pixels = painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster;
     for (int i = 1; i <= schematic.ElementCount(); ++i) {
         const NetworkElement& element = network.element(i);
         const QPointF place = toPixels(scale, {element.Left, element.Top});
         if (!reach.contains(place))
             continue;
-        drawElementPicture(painter, element.Kind, QRectF(place, QSizeF(PicturePixels, PicturePixels)));
+        if (pixels && element.Kind >= ChannelReachKind && element.Kind <= SubAreaKind)
+            painter.drawImage(place, cachedPicture(element.Kind));
+        else
+            drawElementPicture(painter, element.Kind, QRectF(place, QSizeF(PicturePixels, PicturePixels)));
     }
     if (schematic.Labels) {
         painter.setPen(Qt::black);

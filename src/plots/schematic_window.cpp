@@ -6,14 +6,18 @@
 #include "plots/schematic_drawing.h"
 #include "session/app_context.h"
 #include "session/qt_platform.h"
+#include "session/section_table.h"
+#include "session/text_file.h"
 
-#include <QActionGroup>
+#include <QBuffer>
 #include <QHelpEvent>
 #include <QImage>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPixmap>
+#include <QSvgGenerator>
 #include <QToolBar>
 #include <QToolTip>
 
@@ -383,6 +387,78 @@ void frmTopoModel::printSchematic() {
     background_ = SchematicBackground;
     ApplyView();
 }
-void frmTopoModel::saveSchematicAs() {}
+namespace {
+
+enum class ExportFormat { Png, Svg, Pdf };
+
+// The format by the file's extension; a name without one of the three becomes a PNG file.
+ExportFormat exportFormat(std::string& path) {
+    const std::string name = toUpper(path);
+    auto endsWith = [&name](const char* extension) {
+        const std::string end(extension);
+        return name.size() >= end.size() && name.compare(name.size() - end.size(), end.size(), end) == 0;
+    };
+    if (endsWith(".SVG"))
+        return ExportFormat::Svg;
+    if (endsWith(".PDF"))
+        return ExportFormat::Pdf;
+    if (!endsWith(".PNG"))
+        path += ".png";
+    return ExportFormat::Png;
+}
+
+} // namespace
+
+QByteArray frmTopoModel::exportBytes(const std::string& path) const {
+    std::string name = path;
+    const ExportFormat format = exportFormat(name);
+    const QSize size = TopoPic->size();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (format == ExportFormat::Png) {
+        surfaceImage(CopyBackground).save(&buffer, "PNG");
+        return buffer.data();
+    }
+    const QString title = windowTitle() + " - " + pathToQt(context_.session.CurrentFile);
+    if (format == ExportFormat::Svg) {
+        QSvgGenerator svg;
+        svg.setOutputDevice(&buffer);
+        svg.setSize(size);
+        svg.setViewBox(QRect(QPoint(0, 0), size));
+        svg.setResolution(96);
+        svg.setTitle(title);
+        QPainter painter(&svg);
+        drawSchematic(painter, schematic_, schematic_.scale(), CopyBackground, windowWidthTwips());
+    } else {
+        QPdfWriter pdf(&buffer);
+        pdf.setResolution(96);
+        pdf.setPageSize(QPageSize(QSizeF(size) * 72.0 / 96.0, QPageSize::Point));
+        pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
+        pdf.setTitle(title);
+        QPainter painter(&pdf);
+        drawSchematic(painter, schematic_, schematic_.scale(), CopyBackground, windowWidthTwips());
+    }
+    return buffer.data();
+}
+
+// Save As: the schematic as it stands in the window, as a PNG picture or as an SVG or PDF
+// drawing of lines and text, on white.
+void frmTopoModel::saveSchematicAs() {
+    FileDialogSettings dialog;
+    dialog.DialogTitle = "Save Schematic As";
+    dialog.Filter = "PNG Picture (*.png)|*.png|SVG Drawing (*.svg)|*.svg|PDF Document (*.pdf)|*.pdf";
+    dialog.FileName = BaseName(context_.session.CurrentFile) + "png";
+    dialog.InitDir = DirectoryPart(context_.session.CurrentFile);
+    std::optional<std::string> chosen = context_.platform.showSaveDialog(dialog);
+    if (!chosen || chosen->empty())
+        return;
+    exportFormat(*chosen);
+    const QByteArray bytes = exportBytes(*chosen);
+    const WriteResult written = writeFileAtomically(*chosen, std::string(bytes.constData(), bytes.size()));
+    if (!written.ok)
+        context_.platform.showBox(
+            {"The schematic could not be saved as " + *chosen + " (" + written.error + ").", SystemBoxTitle,
+             BoxButtons::Ok, BoxIcon::Exclamation});
+}
 
 } // namespace brooklet

@@ -2,6 +2,7 @@
 // frmTopoModel: the watershed schematic of the saved input file, drawn as a tree with the outlet
 // at the bottom, with tools to frame, zoom, pan and drag the view, toggles of labels, legend and
 // sub-areas, copy, print, and Save As an image, SVG or PDF.
+#include <QByteArray>
 #include <QMainWindow>
 #include <QPointF>
 
@@ -39,6 +40,8 @@ public:
 
     // The schematic as the surface shows it, on the given background.
     QImage surfaceImage(Rgb background) const;
+    // The schematic as a file of the format its name ends in: PNG, SVG or PDF, on white.
+    QByteArray exportBytes(const std::string& path) const;
     // The words of the tip over a point of the surface, in pixels; empty over no element.
     QString tipAt(QPointF pixel) const;
 

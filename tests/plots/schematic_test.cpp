@@ -388,3 +388,30 @@ TEST(SchematicView, TheLegendHasShortWordsInANarrowWindow) {
 
 } // namespace
 } // namespace brooklet::test
+
+namespace brooklet::test {
+namespace {
+
+TEST(SchematicLayout, TheReferenceNetworkFile) {
+    const NetworkReading reading = LoadNetwork(testDataPath("schematic_network.inp"));
+    ASSERT_FALSE(reading.error);
+    Schematic schematic(reading.network);
+    schematic.layOut();
+    const Network& network = schematic.network();
+    EXPECT_EQ(network.ReachCount, 8);
+    EXPECT_EQ(network.SubAreaCount, 4);
+    ASSERT_EQ(network.splitFlowCount(), 2);
+    EXPECT_EQ(network.SplitFlows[1].Name, "R2");
+    EXPECT_EQ(network.SplitFlows[1].ToIndex, 4);
+    EXPECT_EQ(network.SplitFlows[2].Name, "DAM");
+    EXPECT_EQ(network.SplitFlows[2].ToIndex, 0);
+    std::string loose;
+    for (int i = 1; i <= schematic.ElementCount(); ++i)
+        if (!network.element(i).Placed)
+            loose += network.element(i).Name + " ";
+    EXPECT_EQ(loose, "C1 C2 LOOSE A4 ");
+    EXPECT_EQ(network.element(1).Weight, 3); // the leaves A1, A2 and A3
+}
+
+} // namespace
+} // namespace brooklet::test
