@@ -7,7 +7,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include "editing/field_checks.h"
 #include "generated_watershed.h"
 #include "plots/schematic.h"
 #include "plots/schematic_drawing.h"
@@ -15,22 +14,17 @@
 namespace brooklet::bench {
 namespace {
 
-std::string tens(const std::vector<std::string>& fields) {
-    std::string line;
-    for (const std::string& field : fields)
-        AppendField(line, field, 10, false);
-    return line + "\r\n";
-}
-
 // A branching network: reach i drains into reach i / 2, the first into the outlet, and each
 // sub-area into a reach; every fiftieth reach splits flow to another.
 std::string branchingNetwork(int reaches, int subAreas) {
     std::string file = "STREAM REACH:\r\n";
     for (int i = 1; i <= reaches; ++i) {
         const std::string down = i == 1 ? "OUTLET" : "R" + std::to_string(i / 2);
-        file += tens({"", "R" + std::to_string(i), down, "X1", i % 7 == 0 ? "STR1" : "", "100.", "100."});
+        file += tens({"", "R" + std::to_string(i), down, "X1", i % 7 == 0 ? "STR1" : "", "100.", "100."}) +
+                "\r\n";
         if (i % 50 == 0)
-            file += tens({"", "", "SPLIT FLOW", "R" + std::to_string(i / 3), "X2", "1.", "2.", "0.5"});
+            file +=
+                tens({"", "", "SPLIT FLOW", "R" + std::to_string(i / 3), "X2", "1.", "2.", "0.5"}) + "\r\n";
     }
     file += "\r\nSUB-AREA:\r\n";
     for (int j = 1; j <= subAreas; ++j)

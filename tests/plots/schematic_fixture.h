@@ -1,19 +1,12 @@
 #pragma once
 // A saved input file with a small network, and the schematic window opened on it.
-#include "editing/field_checks.h"
+#include "network_records.h"
 #include "plots/schematic_window.h"
 #include "support/ui_fixture.h"
 
 #include <QTest>
 
 namespace brooklet::test {
-
-inline std::string networkRecord(const std::vector<std::string>& fields) {
-    std::string line;
-    for (const std::string& field : fields)
-        AppendField(line, field, 10, false);
-    return line;
-}
 
 class SchematicTest : public UiTest {
 protected:
@@ -35,16 +28,8 @@ protected:
     }
     // The network of the tool tests: three reaches and two sub-areas.
     void saveSmallNetwork() {
-        saveFile({reach("R1", "OUTLET"), reach("R2", "R1"), reach("DAM", "R1", "STR1"),
-                  networkRecord({"", "", "SPLIT FLOW", "R2"})},
+        saveFile({reach("R1", "OUTLET"), reach("R2", "R1"), reach("DAM", "R1", "STR1"), splitFlow("R2")},
                  {subArea("S1", "R2"), subArea("S2", "DAM")});
-    }
-    static std::string reach(const std::string& name, const std::string& down,
-                             const std::string& structure = "") {
-        return networkRecord({"", name, down, "XS1", structure, "100.", "100."});
-    }
-    static std::string subArea(const std::string& name, const std::string& down) {
-        return networkRecord({"", name, down, "GAGE", "1.2", "75.", "0.5"});
     }
     // Opens the window as the View menu does, and lets it activate.
     frmTopoModel* open() {

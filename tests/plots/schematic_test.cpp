@@ -1,6 +1,6 @@
 #include "plots/schematic.h"
 
-#include "editing/field_checks.h"
+#include "network_records.h"
 #include "support/program_folder.h"
 
 #include <gtest/gtest.h>
@@ -11,21 +11,6 @@
 namespace brooklet::test {
 namespace {
 
-std::string record(const std::vector<std::string>& fields) {
-    std::string line;
-    for (const std::string& field : fields)
-        AppendField(line, field, 10, false);
-    return line;
-}
-std::string reach(const std::string& name, const std::string& down, const std::string& structure = "") {
-    return record({"", name, down, "XS1", structure, "100.", "100."});
-}
-std::string subArea(const std::string& name, const std::string& down) {
-    return record({"", name, down, "GAGE", "1.2", "75.", "0.5"});
-}
-std::string splitFlow(const std::string& target) {
-    return record({"", "", "SPLIT FLOW", target, "XS2", "10.", "20.", "0.5"});
-}
 std::string file(const std::vector<std::string>& reaches, const std::vector<std::string>& subAreas = {}) {
     std::vector<std::string> lines = {"Brooklet: Version 1.0", "TITLE", ""};
     if (!subAreas.empty()) {
@@ -37,7 +22,7 @@ std::string file(const std::vector<std::string>& reaches, const std::vector<std:
     lines.insert(lines.end(), reaches.begin(), reaches.end());
     lines.push_back("");
     lines.push_back("STRUCTURE RATING:");
-    lines.push_back(record({"", "STR1", "1.", "2."}));
+    lines.push_back(networkRecord({"", "STR1", "1.", "2."}));
     return crlf(lines);
 }
 
