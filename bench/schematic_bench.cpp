@@ -29,7 +29,8 @@ std::string branchingNetwork(int reaches, int subAreas) {
     file += "\r\nSUB-AREA:\r\n";
     for (int j = 1; j <= subAreas; ++j)
         file += tens({"", "A" + std::to_string(j), "R" + std::to_string((j * 7) % reaches + 1), "G1", "1.",
-                      "75.", "0.5"});
+                      "75.", "0.5"}) +
+                "\r\n";
     return file + "\r\n";
 }
 
