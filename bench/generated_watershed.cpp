@@ -13,13 +13,16 @@ std::string field(const std::string& text, size_t width) {
     return padded;
 }
 
-// A record of ten-column fields from column 1.
+} // namespace
+
 std::string tens(std::initializer_list<std::string> fields) {
     std::string record;
     for (const auto& text : fields)
         record += field(text, 10);
     return record;
 }
+
+namespace {
 
 std::string id(const char* prefix, int number) {
     return prefix + std::to_string(number);

@@ -2,6 +2,7 @@
 // Large watersheds made up for measuring: thousands of sub-areas and reaches with structures,
 // cross sections, storms, rain tables, input hydrographs and alternates, as an input file in
 // the program's own record layout, so that every reader and list finds what it looks for.
+#include <initializer_list>
 #include <string>
 
 namespace brooklet::bench {
@@ -19,6 +20,9 @@ struct WatershedSize {
     // Sub-area and reach entries of each alternate.
     int alternateEntries = 5;
 };
+
+// A record of ten-column fields from column 1.
+std::string tens(std::initializer_list<std::string> fields);
 
 // A watershed of n sub-areas and n reaches, the other parts in proportion.
 WatershedSize scaledWatershed(int n);

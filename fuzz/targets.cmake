@@ -5,3 +5,4 @@ brooklet_fuzz_target(fuzz_option_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_option_
 brooklet_fuzz_target(fuzz_delimited_values ${CMAKE_CURRENT_LIST_DIR}/fuzz_delimited_values.cpp)
 brooklet_fuzz_target(fuzz_network_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_network_sections.cpp)
 brooklet_fuzz_target(fuzz_value_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_value_sections.cpp)
+brooklet_fuzz_target(fuzz_network ${CMAKE_CURRENT_LIST_DIR}/fuzz_network.cpp)

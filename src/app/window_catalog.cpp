@@ -10,6 +10,7 @@
 #include "options/identifier_editor.h"
 #include "options/time_analysis_editor.h"
 #include "options/verification_editor.h"
+#include "plots/schematic_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
 #include "tables/storm_editor.h"
@@ -40,6 +41,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
     windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
     windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
+    windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
 }
 
 } // namespace brooklet

@@ -1,9 +1,11 @@
 #pragma once
 // Everything that needs a person or the operating system: message boxes, file dialogs and the
 // end of the program. Windows call these; tests answer them from a script.
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "session/messages.h"
 
@@ -39,7 +41,23 @@ constexpr int PrintSelectionFlag = 0x1;
 constexpr int PrintNoPageNumbersFlag = 0x8;
 constexpr int PrintHideToFileFlag = 0x100000;
 
-// A printer chosen by the user: a fixed-pitch font, lines, pages, the end of the document.
+// Flags of the page-range print dialog beyond those above.
+constexpr int PrintPageNumbersFlag = 0x2;
+constexpr int PrintNoSelectionFlag = 0x4;
+constexpr int PrintCollateFlag = 0x10;
+constexpr int PrintToFileFlag = 0x20;
+
+// A picture as pixels, row by row from the top, each 0xAARRGGBB: what the clipboard holds and
+// the printer paints.
+struct Bitmap {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+    std::uint32_t pixel(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
+};
+
+// A printer chosen by the user: a fixed-pitch font, lines, pictures, pages, the end of the
+// document.
 class PrintTarget {
 public:
     virtual ~PrintTarget() = default;
@@ -47,6 +65,28 @@ public:
     virtual void printLine(const std::string& line) = 0;
     virtual void newPage() = 0;
     virtual void endDoc() = 0;
+    // Paints the picture at the place, in its own size in pixels.
+    virtual void drawBitmap(const Bitmap& /*picture*/, int /*x*/, int /*y*/) {}
+};
+
+// The printer the program prints on until the user chooses another, and its settings:
+// orientation 1 portrait, 2 landscape; duplex 1 one-sided, 2 long edge, 3 short edge.
+struct PresentPrinter {
+    std::string DeviceName;
+    int Copies = 1;
+    int Orientation = 1;
+    int Duplex = 1;
+};
+
+// What the page-range print dialog is given and hands back: the flags, the page bounds and
+// range, and the printer shown, with its settings, then chosen.
+struct PrintRangeRecord {
+    int Flags = 0;
+    int FromPage = 0;
+    int ToPage = 0;
+    int MinPage = 0;
+    int MaxPage = 0;
+    PresentPrinter printer;
 };
 
 struct PrinterChoice {
@@ -68,6 +108,25 @@ public:
     virtual bool runProgramAndWait(const std::string& program, const std::string& folder) = 0;
     // The printer the user chose, or nothing when the dialog was cancelled.
     virtual std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) = 0;
+
+    // The page-range print dialog: false when the user cancelled or the dialog failed; the
+    // record then is as it was.
+    virtual bool showPrintRangeDialog(PrintRangeRecord& /*record*/) { return false; }
+    // The present printer and its settings, and the names of all printers of the system.
+    virtual PresentPrinter presentPrinter() { return {}; }
+    virtual std::vector<std::string> printerNames() { return {}; }
+    virtual void makePrinterPresent(const std::string& /*name*/) {}
+    // Settings of the present printer; false when the printer refuses the value.
+    virtual bool setPrinterCopies(int /*copies*/) { return false; }
+    virtual bool setPrinterOrientation(int /*orientation*/) { return false; }
+    virtual bool setPrinterDuplex(int /*duplex*/) { return false; }
+    // A document on the present printer; nothing when there is no printer.
+    virtual std::unique_ptr<PrintTarget> openPresentPrinter() { return nullptr; }
+
+    // The clipboard's picture.
+    virtual void clearClipboard() {}
+    virtual void setClipboardBitmap(const Bitmap& /*picture*/) {}
+    virtual std::optional<Bitmap> clipboardBitmap() { return std::nullopt; }
 };
 
 } // namespace brooklet

@@ -4,6 +4,7 @@
 #include "session/section_table.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontMetrics>
@@ -11,6 +12,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 
 #include <algorithm>
@@ -167,6 +169,13 @@ public:
         if (painter_)
             painter_->end();
     }
+    // A pixel of the picture is a pixel of the screen, so it keeps its size on paper.
+    void drawBitmap(const Bitmap& picture, int x, int y) override {
+        const double perPixel = printer_->resolution() / 96.0;
+        painter().drawImage(
+            QRectF(x * perPixel, y * perPixel, picture.width * perPixel, picture.height * perPixel),
+            toQImage(picture));
+    }
 
 private:
     QPainter& painter() {
@@ -195,6 +204,151 @@ std::optional<PrinterChoice> QtPlatform::showPrinterDialog(const PrinterDialogSe
         choice.Flags |= PrintSelectionFlag;
     choice.printer = std::make_unique<QtPrintTarget>(std::move(printer));
     return choice;
+}
+
+QImage toQImage(const Bitmap& picture) {
+    QImage image(std::max(0, picture.width), std::max(0, picture.height), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y)
+        std::copy_n(picture.pixels.begin() + static_cast<std::ptrdiff_t>(y) * picture.width, picture.width,
+                    reinterpret_cast<QRgb*>(image.scanLine(y)));
+    return image;
+}
+
+Bitmap fromQImage(const QImage& image) {
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    Bitmap picture;
+    picture.width = argb.width();
+    picture.height = argb.height();
+    picture.pixels.reserve(static_cast<size_t>(picture.width) * picture.height);
+    for (int y = 0; y < argb.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(argb.constScanLine(y));
+        picture.pixels.insert(picture.pixels.end(), row, row + argb.width());
+    }
+    return picture;
+}
+
+namespace {
+
+int orientationOf(const QPrinter& printer) {
+    return printer.pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+}
+int duplexOf(const QPrinter& printer) {
+    switch (printer.duplex()) {
+    case QPrinter::DuplexLongSide:
+        return 2;
+    case QPrinter::DuplexShortSide:
+        return 3;
+    default:
+        return 1;
+    }
+}
+QPrinter::DuplexMode duplexMode(int duplex) {
+    return duplex == 2   ? QPrinter::DuplexLongSide
+           : duplex == 3 ? QPrinter::DuplexShortSide
+                         : QPrinter::DuplexNone;
+}
+QPageLayout::Orientation orientationMode(int orientation) {
+    return orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+void takeSettings(QPrinter& printer, const PresentPrinter& settings) {
+    printer.setPrinterName(fromBytes(settings.DeviceName));
+    printer.setCopyCount(std::max(1, settings.Copies));
+    printer.setPageOrientation(orientationMode(settings.Orientation));
+    printer.setDuplex(duplexMode(settings.Duplex));
+}
+PresentPrinter settingsOf(const QPrinter& printer) {
+    return {toBytes(printer.printerName()), printer.copyCount(), orientationOf(printer), duplexOf(printer)};
+}
+
+} // namespace
+
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
+QPrinter& QtPlatform::present() {
+    if (!present_)
+        present_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *present_;
+}
+
+bool QtPlatform::showPrintRangeDialog(PrintRangeRecord& record) {
+    QPrinter printer(QPrinter::HighResolution);
+    takeSettings(printer, record.printer);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, !(record.Flags & PrintNoSelectionFlag));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, !(record.Flags & PrintNoPageNumbersFlag));
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, !(record.Flags & PrintHideToFileFlag));
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, true);
+    dialog.setMinMax(record.MinPage, record.MaxPage);
+    printer.setFromTo(record.FromPage, record.ToPage);
+    if (record.Flags & PrintSelectionFlag)
+        dialog.setPrintRange(QAbstractPrintDialog::Selection);
+    else if (record.Flags & PrintPageNumbersFlag)
+        dialog.setPrintRange(QAbstractPrintDialog::PageRange);
+    printer.setCollateCopies(record.Flags & PrintCollateFlag);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    record.Flags &= ~(PrintSelectionFlag | PrintPageNumbersFlag | PrintCollateFlag);
+    if (dialog.printRange() == QAbstractPrintDialog::Selection)
+        record.Flags |= PrintSelectionFlag;
+    else if (dialog.printRange() == QAbstractPrintDialog::PageRange)
+        record.Flags |= PrintPageNumbersFlag;
+    if (printer.collateCopies())
+        record.Flags |= PrintCollateFlag;
+    record.FromPage = printer.fromPage();
+    record.ToPage = printer.toPage();
+    record.printer = settingsOf(printer);
+    return true;
+}
+
+PresentPrinter QtPlatform::presentPrinter() {
+    return settingsOf(present());
+}
+
+std::vector<std::string> QtPlatform::printerNames() {
+    std::vector<std::string> names;
+    for (const QString& name : QPrinterInfo::availablePrinterNames())
+        names.push_back(toBytes(name));
+    return names;
+}
+
+void QtPlatform::makePrinterPresent(const std::string& name) {
+    present().setPrinterName(fromBytes(name));
+}
+
+bool QtPlatform::setPrinterCopies(int copies) {
+    present().setCopyCount(copies);
+    return present().copyCount() == copies;
+}
+
+bool QtPlatform::setPrinterOrientation(int orientation) {
+    return present().setPageOrientation(orientationMode(orientation));
+}
+
+bool QtPlatform::setPrinterDuplex(int duplex) {
+    present().setDuplex(duplexMode(duplex));
+    return duplexOf(present()) == duplex;
+}
+
+std::unique_ptr<PrintTarget> QtPlatform::openPresentPrinter() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    takeSettings(*printer, settingsOf(present()));
+    return std::make_unique<QtPrintTarget>(std::move(printer));
+}
+
+void QtPlatform::clearClipboard() {
+    QApplication::clipboard()->clear();
+}
+
+void QtPlatform::setClipboardBitmap(const Bitmap& picture) {
+    QApplication::clipboard()->setImage(toQImage(picture));
+}
+
+std::optional<Bitmap> QtPlatform::clipboardBitmap() {
+    const QImage image = QApplication::clipboard()->image();
+    if (image.isNull())
+        return std::nullopt;
+    return fromQImage(image);
 }
 
 bool QtPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {

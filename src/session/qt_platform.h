@@ -1,7 +1,12 @@
 #pragma once
 #include "session/platform.h"
 
+#include <QImage>
 #include <QStringList>
+
+#include <memory>
+
+class QPrinter;
 
 namespace brooklet {
 
@@ -12,14 +17,35 @@ bool runHiddenAndWait(const std::string& program, const std::string& folder);
 // Splits a filter of description and pattern pairs into the filters of a Qt file dialog.
 QStringList qtFileFilters(const std::string& filter);
 
+// A picture between the core's pixels and Qt's image.
+QImage toQImage(const Bitmap& picture);
+Bitmap fromQImage(const QImage& image);
+
 class QtPlatform : public Platform {
 public:
+    QtPlatform();
+    ~QtPlatform() override;
     BoxAnswer showBox(const BoxRequest& box) override;
     std::optional<std::string> showOpenDialog(const FileDialogSettings& dialog) override;
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override;
     bool runProgramAndWait(const std::string& program, const std::string& folder) override;
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
+    bool showPrintRangeDialog(PrintRangeRecord& record) override;
+    PresentPrinter presentPrinter() override;
+    std::vector<std::string> printerNames() override;
+    void makePrinterPresent(const std::string& name) override;
+    bool setPrinterCopies(int copies) override;
+    bool setPrinterOrientation(int orientation) override;
+    bool setPrinterDuplex(int duplex) override;
+    std::unique_ptr<PrintTarget> openPresentPrinter() override;
+    void clearClipboard() override;
+    void setClipboardBitmap(const Bitmap& picture) override;
+    std::optional<Bitmap> clipboardBitmap() override;
+
+private:
+    QPrinter& present();
+    std::unique_ptr<QPrinter> present_;
 };
 
 } // namespace brooklet

@@ -69,6 +69,9 @@ public:
     void printLine(const std::string& line) override { jobs_[job_].pages.back().push_back(line); }
     void newPage() override { jobs_[job_].pages.emplace_back(); }
     void endDoc() override { jobs_[job_].ended = true; }
+    void drawBitmap(const Bitmap& picture, int x, int y) override {
+        jobs_[job_].bitmaps.push_back({picture, x, y});
+    }
 
 private:
     std::vector<ScriptedPlatform::PrintJob>& jobs_;
@@ -91,6 +94,62 @@ std::optional<PrinterChoice> ScriptedPlatform::showPrinterDialog(const PrinterDi
     choice.Flags = *flags;
     choice.printer = std::make_unique<RecordingPrinter>(printJobs, printJobs.size() - 1);
     return choice;
+}
+
+bool ScriptedPlatform::showPrintRangeDialog(PrintRangeRecord& record) {
+    printRangeDialogs.push_back(record);
+    if (printRangeAnswers.empty()) {
+        ADD_FAILURE() << "a print dialog nobody scripted an answer for";
+        return false;
+    }
+    const auto answer = printRangeAnswers.front();
+    printRangeAnswers.pop_front();
+    if (!answer)
+        return false;
+    record = *answer;
+    return true;
+}
+
+void ScriptedPlatform::makePrinterPresent(const std::string& name) {
+    printersMadePresent.push_back(name);
+    present.DeviceName = name;
+}
+
+bool ScriptedPlatform::setPrinterCopies(int copies) {
+    if (refusesCopies)
+        return false;
+    present.Copies = copies;
+    return true;
+}
+
+bool ScriptedPlatform::setPrinterOrientation(int orientation) {
+    if (refusesOrientation)
+        return false;
+    present.Orientation = orientation;
+    return true;
+}
+
+bool ScriptedPlatform::setPrinterDuplex(int duplex) {
+    if (refusesDuplex)
+        return false;
+    present.Duplex = duplex;
+    return true;
+}
+
+std::unique_ptr<PrintTarget> ScriptedPlatform::openPresentPrinter() {
+    printJobs.emplace_back();
+    printJobs.back().printer = present.DeviceName;
+    return std::make_unique<RecordingPrinter>(printJobs, printJobs.size() - 1);
+}
+
+void ScriptedPlatform::clearClipboard() {
+    ++clipboardClears;
+    clipboard.reset();
+}
+
+void ScriptedPlatform::setClipboardBitmap(const Bitmap& picture) {
+    ++clipboardSets;
+    clipboard = picture;
 }
 
 std::vector<std::string> ScriptedPlatform::boxTexts() const {

@@ -21,6 +21,17 @@ public:
     // Programs really run, as the program runs them; the start is recorded.
     bool runProgramAndWait(const std::string& program, const std::string& folder) override;
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
+    bool showPrintRangeDialog(PrintRangeRecord& record) override;
+    PresentPrinter presentPrinter() override { return present; }
+    std::vector<std::string> printerNames() override { return printers; }
+    void makePrinterPresent(const std::string& name) override;
+    bool setPrinterCopies(int copies) override;
+    bool setPrinterOrientation(int orientation) override;
+    bool setPrinterDuplex(int duplex) override;
+    std::unique_ptr<PrintTarget> openPresentPrinter() override;
+    void clearClipboard() override;
+    void setClipboardBitmap(const Bitmap& picture) override;
+    std::optional<Bitmap> clipboardBitmap() override { return clipboard; }
 
     // Answers for boxes with a choice, in order. A box with only OK needs none.
     std::deque<BoxAnswer> answers;
@@ -31,11 +42,36 @@ public:
     // The flags the printer dialog returns, in order; nothing for Cancel.
     std::deque<std::optional<int>> printerAnswers;
 
+    // What the page-range print dialog hands back, in order: the record as the user leaves it,
+    // or nothing for Cancel. Each record shown is kept as it came in.
+    std::deque<std::optional<PrintRangeRecord>> printRangeAnswers;
+    std::vector<PrintRangeRecord> printRangeDialogs;
+    // The printers of the system and the present one; the settings it refuses.
+    std::vector<std::string> printers = {"Office Laser", "Plotter"};
+    PresentPrinter present = {"Office Laser", 1, 1, 1};
+    bool refusesCopies = false;
+    bool refusesOrientation = false;
+    bool refusesDuplex = false;
+    // Every name made present, in order.
+    std::vector<std::string> printersMadePresent;
+
+    // The clipboard, and how often it was cleared and given a picture.
+    std::optional<Bitmap> clipboard;
+    int clipboardClears = 0;
+    int clipboardSets = 0;
+
     // What one print job put on paper.
+    struct PrintedBitmap {
+        Bitmap picture;
+        int x = 0;
+        int y = 0;
+    };
     struct PrintJob {
         std::string font;
         int points = 0;
         std::vector<std::vector<std::string>> pages{1};
+        std::vector<PrintedBitmap> bitmaps;
+        std::string printer; // the present printer's name, for jobs on the present printer
         bool ended = false;
     };
     std::vector<PrintJob> printJobs;
