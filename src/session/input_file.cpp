@@ -156,9 +156,7 @@ SaveResult SaveInputFile(Session& session) {
 
     WriteFileNameWorkFile(session);
     session.DataChanged = false;
-    const std::string base = BaseName(session.CurrentFile);
-    for (const char* extension : {"out", "hyd", "ecn", "err", "dbg"})
-        deleteFile(base + extension);
+    DeleteResultFiles(session.CurrentFile);
     return {true, BoxRequest{"Data Saved in file: " + session.CurrentFile, SystemBoxTitle, BoxButtons::Ok,
                              BoxIcon::None}};
 }

@@ -17,17 +17,18 @@ namespace fs = std::filesystem;
 namespace brooklet::test {
 namespace {
 
-class RunCommandsTest : public UiTest {
+// Window tests of the external programs, with the stand-in program in the program folder.
+class RunFixture : public UiTest {
 protected:
-    RunCommandsTest() { startMain(); }
-
+    // A path in the program folder.
+    std::string here(const std::string& name) const { return programFolder + "/" + name; }
     // Puts the stand-in program into the program folder under the given name.
     void installProgram(const std::string& name) {
-        fs::copy_file(BROOKLET_STAND_IN_MODEL, folder.file(name), fs::copy_options::overwrite_existing);
-        fs::permissions(folder.file(name), fs::perms::owner_all);
+        fs::copy_file(BROOKLET_STAND_IN_MODEL, here(name), fs::copy_options::overwrite_existing);
+        fs::permissions(here(name), fs::perms::owner_all);
     }
     void orders(const std::vector<std::string>& lines) {
-        writeBytes(folder.file("stand_in_orders.txt"), crlf(lines));
+        writeBytes(here("stand_in_orders.txt"), crlf(lines));
     }
     // Opens a named, saved session on an input file.
     std::string openSession(const std::string& path) {
@@ -41,6 +42,13 @@ protected:
     void run() { clickMenuItem("mnuRun"); }
     frmFileDisp* viewer() { return context->windows.loadedAs<frmFileDisp>("frmFileDisp"); }
     bool menuShown(const char* name) { return control<QAction>(main, name)->isVisible(); }
+
+    std::string programFolder = folder.path();
+};
+
+class RunCommandsTest : public RunFixture {
+protected:
+    RunCommandsTest() { startMain(); }
 };
 
 TEST_F(RunCommandsTest, ARunWithAOneLineErrorFileShowsThePrintedPageFile) {
@@ -52,8 +60,9 @@ TEST_F(RunCommandsTest, ARunWithAOneLineErrorFileShowsThePrintedPageFile) {
     EXPECT_EQ(bytesOf(folder.file("flume.fil")), shed + "\r\n\r\n");
     EXPECT_EQ(bytesOf(folder.file("stand_in_seen.txt")), shed + "\r\n");
     ASSERT_EQ(platform.programsRun.size(), 1u);
-    EXPECT_EQ(platform.programsRun[0].first, folder.file("flume.exe"));
-    EXPECT_EQ(platform.programsRun[0].second, folder.path() + "/");
+    EXPECT_EQ(platform.programsRun[0].program, "./flume.exe");
+    EXPECT_TRUE(platform.programsRun[0].arguments.empty());
+    EXPECT_EQ(platform.programsRun[0].folder, folder.path() + "/");
     EXPECT_EQ(session().ToolName, "Brooklet program file (Flume.exe)");
     EXPECT_EQ(session().RunResultLabel, "Brooklet Printed Page File");
     EXPECT_EQ(session().ViewIndex, 4);
@@ -98,6 +107,66 @@ TEST_F(RunCommandsTest, AMissingModelSaysNotFound) {
     EXPECT_EQ(viewer(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(fileExists(folder.file("flume.fil"))); // written before the start
+}
+
+TEST_F(RunCommandsTest, AControlFileThatCannotBeWrittenStartsNothing) {
+    installProgram("flume.exe");
+    orders({"lines out 3"});
+    openSession(folder.file("shed.inp"));
+    createFolder(folder.file("flume.fil")); // a folder stands where the control file belongs
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"The control file " + folder.file("flume.fil") +
+                              " could not be written (Is a directory). Brooklet program file (Flume.exe) "
+                              "was not started.",
+                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("stand_in_seen.txt")));
+    EXPECT_FALSE(fileExists(folder.file("shed.out")));
+    EXPECT_EQ(viewer(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+// The program folder's name is not valid UTF-8: the bytes of a Latin-1 "é".
+class ByteNamedFolderTest : public RunFixture {
+protected:
+    ByteNamedFolderTest() {
+        programFolder = folder.file("caf\xe9 sheds");
+        createFolder(programFolder);
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            if (entry.is_regular_file())
+                fs::copy_file(entry.path(), fs::path(programFolder) / entry.path().filename());
+        setCurrentFolder(programFolder);
+        startMain();
+    }
+};
+
+TEST_F(ByteNamedFolderTest, TheModelRunsAndItsResultsShow) {
+    installProgram("flume.exe");
+    orders({"lines out 3", "lines err 1"});
+    const std::string shed = openSession(here("shed.inp"));
+    ASSERT_EQ(session().ProgramFolder, programFolder + "/");
+    run();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(bytesOf(here("flume.fil")), shed + "\r\n\r\n");
+    EXPECT_EQ(bytesOf(here("stand_in_seen.txt")), shed + "\r\n");
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(viewer()->shownPath(), here("shed.out"));
+    EXPECT_EQ(control<QPlainTextEdit>(viewer(), "RichTextBox1")->toPlainText(),
+              "RESULT LINE 1\nRESULT LINE 2\nRESULT LINE 3\n");
+}
+
+TEST_F(ByteNamedFolderTest, TheConverterRunsAndItsFileLoads) {
+    installProgram("Flume_Converter.exe");
+    writeBytes(here("converted.txt"), crlf({"Brooklet: Version 1.0", "CONVERTED", "", "Sub-Area:", "  A1"}));
+    orders({"copy inp " + here("converted.txt")});
+    writeBytes(here("old.dat"), "OLD FORMAT\r\n");
+    platform.openPicks.push_back(here("old.dat"));
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(session().CurrentFile, here("old.inp"));
+    EXPECT_EQ(bytesOf(workFile(11)), crlf({"Sub-Area:", "  A1"}));
 }
 
 TEST_F(RunCommandsTest, AProgramWithoutExeInItsNameRunsToo) {

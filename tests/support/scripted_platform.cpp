@@ -1,7 +1,5 @@
 #include "support/scripted_platform.h"
 
-#include "session/qt_platform.h"
-
 #include <gtest/gtest.h>
 
 namespace brooklet::test {
@@ -40,9 +38,11 @@ std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSett
     return nextPick(savePicks, "save");
 }
 
-bool ScriptedPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {
-    programsRun.emplace_back(program, folder);
-    return runHiddenAndWait(program, folder);
+ProgramEnd ScriptedPlatform::runProgramAndWait(const std::string& program,
+                                               const std::vector<std::string>& arguments,
+                                               const std::string& folder) {
+    programsRun.push_back({program, arguments, folder});
+    return runner_.runHiddenAndWait(program, arguments, folder);
 }
 
 namespace {
