@@ -418,9 +418,12 @@ void frmMain::saveFileAs() {
     beginFileCommand();
     dialog_.DialogTitle = "Save Brooklet file";
     SaveInputFileAs();
-    if (!context_.session.DataChanged && !context_.session.isUntitled())
-        mnuRun->setVisible(true);
-    UpdateViewMenu(context_, this);
+    // A session still without a file (the dialog was cancelled) has nothing to run or view.
+    if (!context_.session.isUntitled()) {
+        if (!context_.session.DataChanged)
+            mnuRun->setVisible(true);
+        UpdateViewMenu(context_, this);
+    }
     endFileCommand();
 }
 
