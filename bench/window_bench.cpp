@@ -27,7 +27,11 @@ public:
     std::optional<std::string> showOpenDialog(const FileDialogSettings&) override { return {}; }
     std::optional<std::string> showSaveDialog(const FileDialogSettings&) override { return {}; }
     void endProgram() override {}
-    bool runProgramAndWait(const std::string&, const std::string&) override { return false; }
+    ProgramEnd runProgramAndWait(const std::string&, const std::vector<std::string>&,
+                                 const std::string&) override {
+        return ProgramEnd::NotStarted;
+    }
+    void stopProgram() override {}
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings&) override { return {}; }
 };
 

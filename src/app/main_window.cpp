@@ -11,6 +11,7 @@
 #include "session/view_menu.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -180,6 +181,15 @@ void frmMain::buildMenus() {
     mnuRun = bar->addAction("Run");
     mnuRun->setObjectName("mnuRun");
     connect(mnuRun, &QAction::triggered, this, [this] { RunModel(context_); });
+    mnuStop = bar->addAction("Stop");
+    mnuStop->setObjectName("mnuStop");
+    mnuStop->setVisible(false);
+    connect(mnuStop, &QAction::triggered, this, [this] { StopRunningProgram(context_); });
+    sessionCommands_ = new QActionGroup(this);
+    sessionCommands_->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    for (int index : {1, 2, 3, 6, 7, 10, 11, 14, 15})
+        sessionCommands_->addAction(fileItem(index));
+    sessionCommands_->addAction(mnuRun);
     mnuPlots = bar->addAction("Plots");
     mnuPlots->setObjectName("mnuPlots");
     connect(mnuPlots, &QAction::triggered, this,
@@ -222,12 +232,19 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (!StopProgramBeforeExit(context_)) {
+        event->ignore();
+        return;
+    }
     context_.windows.unload("frmTopoModel");
     event->accept();
 }
 
 void frmMain::Form_Activate() {
     const Session& session = context_.session;
+    // A group remembers each item's own state, which comes back when the program has ended.
+    sessionCommands_->setEnabled(!context_.ProgramRunning);
+    mnuStop->setVisible(context_.ProgramRunning);
     mnuPlots->setVisible(false);
     if (!session.DataChanged && !session.CurrentFile.empty() && !session.isUntitled()) {
         mnuRun->setVisible(true);
@@ -406,9 +423,12 @@ void frmMain::saveFileAs() {
     beginFileCommand();
     dialog_.DialogTitle = "Save Brooklet file";
     SaveInputFileAs();
-    if (!context_.session.DataChanged)
-        mnuRun->setVisible(true);
-    UpdateViewMenu(context_, this);
+    // A session still without a file (the dialog was cancelled) has nothing to run or view.
+    if (!context_.session.isUntitled()) {
+        if (!context_.session.DataChanged)
+            mnuRun->setVisible(true);
+        UpdateViewMenu(context_, this);
+    }
     endFileCommand();
 }
 
@@ -463,6 +483,8 @@ void frmMain::SaveInputFileAs() {
 
 void frmMain::exitProgram() {
     beginFileCommand();
+    if (!StopProgramBeforeExit(context_))
+        return;
     Session& session = context_.session;
     if (session.DataChanged) {
         const BoxAnswer answer = context_.platform.showBox(

@@ -10,6 +10,7 @@
 #include "session/platform.h"
 
 class QAction;
+class QActionGroup;
 class QGroupBox;
 class QLabel;
 class QListWidget;
@@ -88,6 +89,9 @@ private:
     QMenu* mnuHelp = nullptr;
     QAction* mnuRun = nullptr;
     QAction* mnuPlots = nullptr;
+    QAction* mnuStop = nullptr; // shown while an external program runs
+    // The commands that change the session or start a program: disabled while a program runs.
+    QActionGroup* sessionCommands_ = nullptr;
     ControlArray<QAction> fileItems_;
     ControlArray<QAction> viewItems_;
     ControlArray<QAction> helpItems_;

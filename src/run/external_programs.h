@@ -2,9 +2,13 @@
 // The three external programs: the model, the converter of old input files and the HEC-RAS
 // reformatter. Each is told its data file through a two-line control file in the program
 // folder and judged afterwards by the files it leaves beside that data file.
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "session/messages.h"
 #include "session/section_table.h"
+#include "session/text_file.h"
 
 namespace brooklet {
 
@@ -18,12 +22,33 @@ extern const ExternalProgram ModelProgram;
 extern const ExternalProgram ConverterProgram;
 extern const ExternalProgram ReformatterProgram;
 
-// Writes the control file: CurrentFile, then an empty line. False when it cannot be written.
-bool WriteControlFile(const Session& session, const std::string& ControlFile);
+// Writes the control file: CurrentFile, then an empty line.
+WriteResult WriteControlFile(const Session& session, const std::string& ControlFile);
 
-// The program's path in the program folder. Where programs carry no ".exe", the same name
+// Makes ready for a start of the program ToolName: writes the control file and deletes the
+// result files of CurrentFile, so that results of an earlier run never pass for this one. The
+// box to show, when either failed and the program must not start.
+std::optional<BoxRequest> PrepareProgramStart(const Session& session, const std::string& ControlFile);
+
+// The program's file name in the program folder. Where programs carry no ".exe", the same name
 // without it is taken when only that one is there.
-std::string ProgramPath(const Session& session, const std::string& Program);
+std::string ProgramFileName(const Session& session, const std::string& Program);
+
+// True when the file is a Windows program (it begins with "MZ") and this system is not Windows.
+bool NeedsWine(const std::string& path);
+
+// The full path of an executable file of that name in a folder of the PATH; empty when none.
+std::string FindOnPath(const std::string& name);
+
+// How a program of the program folder is started: named relative to the folder and run in it,
+// a Windows program through Wine on other systems.
+struct ProgramStart {
+    std::string program;
+    std::vector<std::string> arguments;
+    std::string folder;
+    bool wineMissing = false; // a Windows program and no Wine on the PATH: it cannot start
+};
+ProgramStart PlanProgramStart(const Session& session, const std::string& Program);
 
 // After a program has ended: chooses the file the viewer shows by the error file's length (one
 // line or none counts as no errors) and tells whether the viewer is to open.

@@ -19,40 +19,87 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
-void showNotFound(AppContext& context) {
-    context.platform.showBox(
-        {context.session.ToolName + " - NOT FOUND", DefaultBoxTitle, BoxButtons::Ok, BoxIcon::None});
+// A box of the run commands about the program of ToolName.
+void tell(AppContext& context, const std::string& text, BoxIcon icon = BoxIcon::Exclamation) {
+    context.platform.showBox({context.session.ToolName + text, DefaultBoxTitle, BoxButtons::Ok, icon});
 }
 
 } // namespace
 
-bool RunProgramUnderHourglass(AppContext& context, const ExternalProgram& program) {
+ProgramEnd CallShell(AppContext& context, const ProgramStart& Command) {
     Hourglass hourglass;
-    context.session.ToolName = program.ToolName;
-    if (RunExternalProgram(context, program.ControlFile, program.Program))
-        return true;
-    showNotFound(context);
-    return false;
-}
-
-int CallShell(AppContext& context, const std::string& Command, int WindowStyle) {
-    (void)WindowStyle; // programs are always started hidden
-    return context.platform.runProgramAndWait(Command, context.session.ProgramFolder) ? -1 : 0;
+    context.ProgramRunning = true;
+    context.windows.runMainActivation();
+    const ProgramEnd end =
+        context.platform.runProgramAndWait(Command.program, Command.arguments, Command.folder);
+    context.ProgramRunning = false;
+    context.windows.runMainActivation();
+    return end;
 }
 
 bool RunExternalProgram(AppContext& context, const std::string& ControlFile, const std::string& Program) {
     Session& session = context.session;
-    WriteControlFile(session, ControlFile);
-    if (CallShell(context, ProgramPath(session, Program), 0) != -1)
+    const ProgramStart start = PlanProgramStart(session, Program);
+    if (start.wineMissing) {
+        tell(context, " is a Windows program and needs Wine to run on this system; Wine was not found on "
+                      "the PATH.");
         return false;
+    }
+    if (const auto refused = PrepareProgramStart(session, ControlFile)) {
+        context.platform.showBox(*refused);
+        return false;
+    }
+    switch (CallShell(context, start)) {
+    case ProgramEnd::NotStarted:
+        tell(context, " - NOT FOUND", BoxIcon::None);
+        return false;
+    case ProgramEnd::Stopped:
+        return false; // the Stop command has said so
+    case ProgramEnd::Crashed:
+        tell(context, " ended abnormally. Its results may be incomplete.");
+        break;
+    case ProgramEnd::Finished:
+        break;
+    }
     if (JudgeRunResult(session))
         ShowFileViewer(context);
     return true;
 }
 
 void RunModel(AppContext& context) {
-    context.session.RunResultLabel = "Brooklet Printed Page File";
+    Session& session = context.session;
+    // The model reads the saved file: a session without one, or with unsaved changes, has none
+    // to give it.
+    if (session.CurrentFile.empty() || session.isUntitled() || session.DataChanged)
+        return;
+    session.RunResultLabel = "Brooklet Printed Page File";
     RunProgramUnderHourglass(context, ModelProgram);
+}
+
+bool RunProgramUnderHourglass(AppContext& context, const ExternalProgram& program) {
+    context.session.ToolName = program.ToolName;
+    return RunExternalProgram(context, program.ControlFile, program.Program);
+}
+
+void StopRunningProgram(AppContext& context) {
+    if (!context.ProgramRunning)
+        return;
+    context.ProgramRunning = false;
+    context.platform.stopProgram();
+    tell(context, " was stopped before its end. Its results are incomplete.");
+}
+
+bool StopProgramBeforeExit(AppContext& context) {
+    if (!context.ProgramRunning)
+        return true;
+    const BoxAnswer answer =
+        context.platform.showBox({context.session.ToolName + " is running. Stop it and exit?",
+                                  DefaultBoxTitle, BoxButtons::YesNo, BoxIcon::Question});
+    if (answer != BoxAnswer::Yes)
+        return false;
+    context.ProgramRunning = false;
+    context.platform.stopProgram();
+    return true;
 }
 
 } // namespace brooklet

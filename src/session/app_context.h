@@ -19,6 +19,8 @@ struct AppContext {
     WindowHost windows;
     // Index of the alternate that the sub-area and reach windows work on; 0 for the base data.
     int CurrentAlternate = 0;
+    // True while an external program runs and has not been told to stop.
+    bool ProgramRunning = false;
     GridContext tabular;       // the grid variables and tabular tables of the grid window open
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
 };

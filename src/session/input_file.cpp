@@ -179,9 +179,7 @@ SaveResult SaveInputFile(Session& session) {
     // The file now holds the whole session: it is no longer partly read.
     if (PartlyReadLine(session, session.CurrentFile))
         ForgetPartlyRead(session);
-    const std::string base = BaseName(session.CurrentFile);
-    for (const char* extension : {"out", "hyd", "ecn", "err", "dbg"})
-        deleteFile(base + extension);
+    DeleteResultFiles(session.CurrentFile);
     return {true, BoxRequest{"Data Saved in file: " + session.CurrentFile, SystemBoxTitle, BoxButtons::Ok,
                              BoxIcon::None}};
 }

@@ -94,6 +94,14 @@ struct PrinterChoice {
     std::unique_ptr<PrintTarget> printer;
 };
 
+// How a program started by the platform ended.
+enum class ProgramEnd {
+    NotStarted, // it could not be started
+    Finished,   // it ended by itself, whatever its exit code
+    Crashed,    // it was ended by a signal or crashed
+    Stopped,    // it was stopped on the user's command
+};
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -103,9 +111,15 @@ public:
     virtual std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) = 0;
     // Ends the program at once, closing every window.
     virtual void endProgram() = 0;
-    // Starts the program hidden, with no arguments, in the given folder, and returns when it has
-    // ended, the windows living on meanwhile. False when it could not be started.
-    virtual bool runProgramAndWait(const std::string& program, const std::string& folder) = 0;
+    // Starts the program hidden, with the arguments, in the given folder, and returns when it has
+    // ended, the windows living on meanwhile. The program is a path relative to the folder
+    // ("./flume.exe") or the full path of a program. The folder is taken byte for byte, whatever
+    // its encoding. One program runs at a time.
+    virtual ProgramEnd runProgramAndWait(const std::string& program,
+                                         const std::vector<std::string>& arguments,
+                                         const std::string& folder) = 0;
+    // Ends the program that runs now, if any; its wait then ends with ProgramEnd::Stopped.
+    virtual void stopProgram() = 0;
     // The printer the user chose, or nothing when the dialog was cancelled.
     virtual std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) = 0;
 

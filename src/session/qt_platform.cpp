@@ -17,6 +17,10 @@
 
 #include <algorithm>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace brooklet {
 
 QStringList qtFileFilters(const std::string& filter) {
@@ -115,10 +119,26 @@ std::optional<std::string> QtPlatform::showSaveDialog(const FileDialogSettings& 
     return showFileDialog(dialog, QFileDialog::AcceptSave);
 }
 
-bool runHiddenAndWait(const std::string& program, const std::string& folder) {
+ProgramEnd ProgramRunner::runHiddenAndWait(const std::string& program,
+                                           const std::vector<std::string>& arguments,
+                                           const std::string& folder) {
     QProcess process;
     process.setProgram(pathToQt(program));
+    QStringList qtArguments;
+    for (const std::string& argument : arguments)
+        qtArguments << pathToQt(argument);
+    process.setArguments(qtArguments);
+#ifdef Q_OS_UNIX
+    // A folder name need not be valid in any encoding, and a Qt string cannot carry every byte:
+    // the child changes into the folder by its bytes, and the program is named relative to it.
+    if (!folder.empty())
+        process.setChildProcessModifier([folder] {
+            if (::chdir(folder.c_str()) != 0)
+                ::_exit(127);
+        });
+#else
     process.setWorkingDirectory(pathToQt(folder));
+#endif
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
@@ -131,11 +151,25 @@ bool runHiddenAndWait(const std::string& program, const std::string& folder) {
             wait.quit();
         }
     });
+    process_ = &process;
+    stopped_ = false;
     process.start();
     // A failed start may be told at once or through the event loop; both end the wait.
     if (started)
         wait.exec();
-    return started;
+    process_ = nullptr;
+    if (!started)
+        return ProgramEnd::NotStarted;
+    if (stopped_)
+        return ProgramEnd::Stopped;
+    return process.exitStatus() == QProcess::CrashExit ? ProgramEnd::Crashed : ProgramEnd::Finished;
+}
+
+void ProgramRunner::stop() {
+    if (!process_)
+        return;
+    stopped_ = true;
+    process_->kill();
 }
 
 namespace {
@@ -351,8 +385,10 @@ std::optional<Bitmap> QtPlatform::clipboardBitmap() {
     return fromQImage(image);
 }
 
-bool QtPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {
-    return runHiddenAndWait(program, folder);
+ProgramEnd QtPlatform::runProgramAndWait(const std::string& program,
+                                         const std::vector<std::string>& arguments,
+                                         const std::string& folder) {
+    return runner_.runHiddenAndWait(program, arguments, folder);
 }
 
 void QtPlatform::endProgram() {

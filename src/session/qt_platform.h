@@ -7,12 +7,23 @@
 #include <memory>
 
 class QPrinter;
+class QProcess;
 
 namespace brooklet {
 
 // Starts a program hidden and waits for its end in a local event loop, so windows repaint and
-// menus stay live; the processor is not kept busy. False when it could not be started.
-bool runHiddenAndWait(const std::string& program, const std::string& folder);
+// menus stay live; the processor is not kept busy.
+class ProgramRunner {
+public:
+    ProgramEnd runHiddenAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                const std::string& folder);
+    // Kills the program that runs now, if any.
+    void stop();
+
+private:
+    QProcess* process_ = nullptr;
+    bool stopped_ = false;
+};
 
 // Splits a filter of description and pattern pairs into the filters of a Qt file dialog.
 QStringList qtFileFilters(const std::string& filter);
@@ -29,7 +40,9 @@ public:
     std::optional<std::string> showOpenDialog(const FileDialogSettings& dialog) override;
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override;
-    bool runProgramAndWait(const std::string& program, const std::string& folder) override;
+    ProgramEnd runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                 const std::string& folder) override;
+    void stopProgram() override { runner_.stop(); }
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
     bool showPrintRangeDialog(PrintRangeRecord& record) override;
     PresentPrinter presentPrinter() override;
@@ -46,6 +59,7 @@ public:
 private:
     QPrinter& present();
     std::unique_ptr<QPrinter> present_;
+    ProgramRunner runner_;
 };
 
 } // namespace brooklet

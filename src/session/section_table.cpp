@@ -102,6 +102,18 @@ std::string WithDefaultExtension(const std::string& Path, const std::string& ext
     return Path + "." + extension;
 }
 
+std::optional<std::string> DeleteResultFiles(const std::string& File) {
+    const std::string base = BaseName(File);
+    std::optional<std::string> left;
+    for (const char* extension : {"out", "hyd", "ecn", "err", "dbg"}) {
+        const std::string path = base + extension;
+        deleteFile(path);
+        if (!left && (fileExists(path) || folderExists(path)))
+            left = path;
+    }
+    return left;
+}
+
 std::string DirectoryPart(const std::string& Path) {
     const std::string trimmed = trim(Path);
     const auto separator = trimmed.rfind(folderSeparator());

@@ -2,6 +2,7 @@
 // The numbered sections of the input file, the work files that hold them while a file is
 // edited, the result-file extensions, and the session variables all windows share.
 #include <array>
+#include <optional>
 #include <string>
 
 namespace brooklet {
@@ -106,6 +107,9 @@ std::string BaseName(const std::string& Path);
 // The path with "." and the extension added when its file name has no extension, as a file
 // dialog does when the user types a bare name.
 std::string WithDefaultExtension(const std::string& Path, const std::string& extension);
+// Deletes what a run of the model on File left beside it: the printed page, hydrograph, Tally,
+// error and debug files. The first of them that is still there afterwards, if any.
+std::optional<std::string> DeleteResultFiles(const std::string& File);
 // The trimmed path up to and including its last folder separator; unchanged when it has none.
 std::string DirectoryPart(const std::string& Path);
 

@@ -3,6 +3,11 @@
 #include "session/text_file.h"
 #include "support/program_folder.h"
 
+#include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
 namespace brooklet::test {
 namespace {
 
@@ -29,16 +34,16 @@ TEST_F(ExternalProgramsTest, TheThreeProgramsAndTheirControlFiles) {
 
 TEST_F(ExternalProgramsTest, TheControlFileHoldsTheFileAndAnEmptyLineAndIsReplaced) {
     writeBytes(folder.file("flume.fil"), "an old control file with more\r\nlines\r\nthan two\r\n");
-    ASSERT_TRUE(WriteControlFile(session, "flume.fil"));
+    ASSERT_TRUE(WriteControlFile(session, "flume.fil").ok);
     EXPECT_EQ(bytesOf(folder.file("flume.fil")), folder.file("my shed.inp") + "\r\n\r\n");
 }
 
 TEST_F(ExternalProgramsTest, AProgramWithoutExeIsAcceptedWhenOnlyThatOneIsThere) {
-    EXPECT_EQ(ProgramPath(session, "flume.exe"), folder.file("flume.exe")); // neither: the name as it is
+    EXPECT_EQ(ProgramFileName(session, "flume.exe"), "flume.exe"); // neither: the name as it is
     writeBytes(folder.file("flume"), "");
-    EXPECT_EQ(ProgramPath(session, "flume.exe"), folder.file("flume"));
+    EXPECT_EQ(ProgramFileName(session, "flume.exe"), "flume");
     writeBytes(folder.file("flume.exe"), "");
-    EXPECT_EQ(ProgramPath(session, "flume.exe"), folder.file("flume.exe"));
+    EXPECT_EQ(ProgramFileName(session, "flume.exe"), "flume.exe");
 }
 
 TEST_F(ExternalProgramsTest, AnErrorFileOfOneLineCountsAsNoErrors) {
@@ -69,6 +74,70 @@ TEST_F(ExternalProgramsTest, ABlankResultLabelOpensNoViewer) {
     writeBytes(folder.file("my shed.err"), "ERROR 1\r\nERROR 2\r\n");
     EXPECT_FALSE(JudgeRunResult(session));
     EXPECT_EQ(session.ViewIndex, 5); // chosen all the same, though nothing shows it
+}
+
+TEST_F(ExternalProgramsTest, AProgramStartsByItsNameRelativeToTheProgramFolder) {
+    ProgramStart start = PlanProgramStart(session, "flume.exe");
+    EXPECT_EQ(start.program, "./flume.exe");
+    EXPECT_TRUE(start.arguments.empty());
+    EXPECT_EQ(start.folder, folder.path() + "/");
+    EXPECT_FALSE(start.wineMissing);
+    writeBytes(folder.file("flume"), "");
+    EXPECT_EQ(PlanProgramStart(session, "flume.exe").program, "./flume");
+}
+
+TEST_F(ExternalProgramsTest, AWindowsProgramBeginsWithMZ) {
+    writeBytes(folder.file("a.exe"), "MZ\x90");
+    writeBytes(folder.file("b.exe"), "\x7f"
+                                     "ELF");
+    writeBytes(folder.file("c.exe"), "M");
+    EXPECT_TRUE(NeedsWine(folder.file("a.exe")));
+    EXPECT_FALSE(NeedsWine(folder.file("b.exe")));
+    EXPECT_FALSE(NeedsWine(folder.file("c.exe")));
+    EXPECT_FALSE(NeedsWine(folder.file("missing.exe")));
+}
+
+// Sets PATH for one test and gives the old one back.
+class PathTest : public ExternalProgramsTest {
+protected:
+    PathTest() : oldPath_(std::getenv("PATH") ? std::getenv("PATH") : "") {}
+    ~PathTest() override { setenv("PATH", oldPath_.c_str(), 1); }
+    void setPath(const std::string& path) { setenv("PATH", path.c_str(), 1); }
+
+private:
+    std::string oldPath_;
+};
+
+TEST_F(PathTest, WineIsTheFirstExecutableOfThatNameOnThePath) {
+    createFolder(folder.file("one"));
+    createFolder(folder.file("two"));
+    writeBytes(folder.file("one/wine"), "not executable");
+    fs::permissions(folder.file("one/wine"), fs::perms::owner_read | fs::perms::owner_write);
+    writeBytes(folder.file("two/wine"), "#!/bin/sh\n");
+    fs::permissions(folder.file("two/wine"), fs::perms::owner_all);
+    setPath(folder.file("missing") + ":" + folder.file("one") + ":" + folder.file("two"));
+    EXPECT_EQ(FindOnPath("wine"), folder.file("two/wine"));
+    writeBytes(folder.file("flume.exe"), "MZ");
+    const ProgramStart start = PlanProgramStart(session, "flume.exe");
+    EXPECT_EQ(start.program, folder.file("two/wine"));
+    EXPECT_EQ(start.arguments, std::vector<std::string>{"./flume.exe"});
+    EXPECT_FALSE(start.wineMissing);
+
+    setPath(folder.file("one"));
+    EXPECT_EQ(FindOnPath("wine"), "");
+    EXPECT_TRUE(PlanProgramStart(session, "flume.exe").wineMissing);
+}
+
+TEST_F(ExternalProgramsTest, PreparingAStartWritesTheControlFileAndDeletesTheResultsOnly) {
+    session.ToolName = "Brooklet program file (Flume.exe)";
+    for (const char* extension : {"inp", "out", "err", "dbg", "hyd", "ecn", "txt"})
+        writeBytes(folder.file(std::string("my shed.") + extension), "x\r\n");
+    EXPECT_EQ(PrepareProgramStart(session, "flume.fil"), std::nullopt);
+    EXPECT_EQ(bytesOf(folder.file("flume.fil")), folder.file("my shed.inp") + "\r\n\r\n");
+    for (const char* extension : {"out", "err", "dbg", "hyd", "ecn"})
+        EXPECT_FALSE(fileExists(folder.file(std::string("my shed.") + extension))) << extension;
+    EXPECT_TRUE(fileExists(folder.file("my shed.inp")));
+    EXPECT_TRUE(fileExists(folder.file("my shed.txt")));
 }
 
 } // namespace

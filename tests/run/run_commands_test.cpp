@@ -11,23 +11,26 @@
 #include <QTimer>
 
 #include <filesystem>
+#include <functional>
+#include <map>
 
 namespace fs = std::filesystem;
 
 namespace brooklet::test {
 namespace {
 
-class RunCommandsTest : public UiTest {
+// Window tests of the external programs, with the stand-in program in the program folder.
+class RunFixture : public UiTest {
 protected:
-    RunCommandsTest() { startMain(); }
-
+    // A path in the program folder.
+    std::string here(const std::string& name) const { return programFolder + "/" + name; }
     // Puts the stand-in program into the program folder under the given name.
     void installProgram(const std::string& name) {
-        fs::copy_file(BROOKLET_STAND_IN_MODEL, folder.file(name), fs::copy_options::overwrite_existing);
-        fs::permissions(folder.file(name), fs::perms::owner_all);
+        fs::copy_file(BROOKLET_STAND_IN_MODEL, here(name), fs::copy_options::overwrite_existing);
+        fs::permissions(here(name), fs::perms::owner_all);
     }
     void orders(const std::vector<std::string>& lines) {
-        writeBytes(folder.file("stand_in_orders.txt"), crlf(lines));
+        writeBytes(here("stand_in_orders.txt"), crlf(lines));
     }
     // Opens a named, saved session on an input file.
     std::string openSession(const std::string& path) {
@@ -41,6 +44,13 @@ protected:
     void run() { clickMenuItem("mnuRun"); }
     frmFileDisp* viewer() { return context->windows.loadedAs<frmFileDisp>("frmFileDisp"); }
     bool menuShown(const char* name) { return control<QAction>(main, name)->isVisible(); }
+
+    std::string programFolder = folder.path();
+};
+
+class RunCommandsTest : public RunFixture {
+protected:
+    RunCommandsTest() { startMain(); }
 };
 
 TEST_F(RunCommandsTest, ARunWithAOneLineErrorFileShowsThePrintedPageFile) {
@@ -52,8 +62,9 @@ TEST_F(RunCommandsTest, ARunWithAOneLineErrorFileShowsThePrintedPageFile) {
     EXPECT_EQ(bytesOf(folder.file("flume.fil")), shed + "\r\n\r\n");
     EXPECT_EQ(bytesOf(folder.file("stand_in_seen.txt")), shed + "\r\n");
     ASSERT_EQ(platform.programsRun.size(), 1u);
-    EXPECT_EQ(platform.programsRun[0].first, folder.file("flume.exe"));
-    EXPECT_EQ(platform.programsRun[0].second, folder.path() + "/");
+    EXPECT_EQ(platform.programsRun[0].program, "./flume.exe");
+    EXPECT_TRUE(platform.programsRun[0].arguments.empty());
+    EXPECT_EQ(platform.programsRun[0].folder, folder.path() + "/");
     EXPECT_EQ(session().ToolName, "Brooklet program file (Flume.exe)");
     EXPECT_EQ(session().RunResultLabel, "Brooklet Printed Page File");
     EXPECT_EQ(session().ViewIndex, 4);
@@ -98,6 +109,66 @@ TEST_F(RunCommandsTest, AMissingModelSaysNotFound) {
     EXPECT_EQ(viewer(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(fileExists(folder.file("flume.fil"))); // written before the start
+}
+
+TEST_F(RunCommandsTest, AControlFileThatCannotBeWrittenStartsNothing) {
+    installProgram("flume.exe");
+    orders({"lines out 3"});
+    openSession(folder.file("shed.inp"));
+    createFolder(folder.file("flume.fil")); // a folder stands where the control file belongs
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"The control file " + folder.file("flume.fil") +
+                              " could not be written (Is a directory). Brooklet program file (Flume.exe) "
+                              "was not started.",
+                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("stand_in_seen.txt")));
+    EXPECT_FALSE(fileExists(folder.file("shed.out")));
+    EXPECT_EQ(viewer(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+// The program folder's name is not valid UTF-8: the bytes of a Latin-1 "é".
+class ByteNamedFolderTest : public RunFixture {
+protected:
+    ByteNamedFolderTest() {
+        programFolder = folder.file("caf\xe9 sheds");
+        createFolder(programFolder);
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            if (entry.is_regular_file())
+                fs::copy_file(entry.path(), fs::path(programFolder) / entry.path().filename());
+        setCurrentFolder(programFolder);
+        startMain();
+    }
+};
+
+TEST_F(ByteNamedFolderTest, TheModelRunsAndItsResultsShow) {
+    installProgram("flume.exe");
+    orders({"lines out 3", "lines err 1"});
+    const std::string shed = openSession(here("shed.inp"));
+    ASSERT_EQ(session().ProgramFolder, programFolder + "/");
+    run();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(bytesOf(here("flume.fil")), shed + "\r\n\r\n");
+    EXPECT_EQ(bytesOf(here("stand_in_seen.txt")), shed + "\r\n");
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(viewer()->shownPath(), here("shed.out"));
+    EXPECT_EQ(control<QPlainTextEdit>(viewer(), "RichTextBox1")->toPlainText(),
+              "RESULT LINE 1\nRESULT LINE 2\nRESULT LINE 3\n");
+}
+
+TEST_F(ByteNamedFolderTest, TheConverterRunsAndItsFileLoads) {
+    installProgram("Flume_Converter.exe");
+    writeBytes(here("converted.txt"), crlf({"Brooklet: Version 1.0", "CONVERTED", "", "Sub-Area:", "  A1"}));
+    orders({"copy inp " + here("converted.txt")});
+    writeBytes(here("old.dat"), "OLD FORMAT\r\n");
+    platform.openPicks.push_back(here("old.dat"));
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(session().CurrentFile, here("old.inp"));
+    EXPECT_EQ(bytesOf(workFile(11)), crlf({"Sub-Area:", "  A1"}));
 }
 
 TEST_F(RunCommandsTest, AProgramWithoutExeInItsNameRunsToo) {
@@ -155,6 +226,292 @@ TEST_F(RunCommandsTest, TheWindowsLiveAndRepaintDuringALongRun) {
     EXPECT_GT(probe.paints, paintsBefore);
     EXPECT_TRUE(fileExists(release)); // the run ended only after the windows had repainted
     EXPECT_TRUE(fileExists(folder.file("shed.out")));
+}
+
+// What the main window's menus offer at one moment.
+struct MenuState {
+    std::map<std::string, bool> enabled;
+    bool stopShown = false;
+};
+
+class RunStateTest : public RunCommandsTest {
+protected:
+    MenuState menuState() {
+        MenuState state;
+        for (const char* name : {"mnuFileItem(1)", "mnuFileItem(2)", "mnuFileItem(3)", "mnuFileItem(6)",
+                                 "mnuFileItem(7)", "mnuFileItem(10)", "mnuFileItem(11)", "mnuFileItem(14)",
+                                 "mnuFileItem(15)", "mnuFileItem(18)", "mnuRun", "mnuStop"})
+            state.enabled[name] = control<QAction>(main, name)->isEnabled();
+        state.stopShown = menuShown("mnuStop");
+        return state;
+    }
+    // Runs the model, doing the given step once the program runs, from the event loop that waits.
+    void runAndWhileRunning(std::function<void()> step) {
+        QTimer::singleShot(0, main, std::move(step));
+        run();
+    }
+    // A model that runs until the test lets it end by creating the release file.
+    void installWaitingModel() {
+        installProgram("flume.exe");
+        orders({"wait-for " + release, "lines out 3", "lines err 1"});
+    }
+    const std::string release = folder.file("release");
+};
+
+TEST_F(RunStateTest, WhileAProgramRunsTheCommandsThatChangeTheSessionAreDisabled) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    const MenuState before = menuState();
+    EXPECT_FALSE(before.stopShown);
+    MenuState during;
+    runAndWhileRunning([&] {
+        during = menuState();
+        writeBytes(release, "");
+    });
+    for (const char* name :
+         {"mnuFileItem(1)", "mnuFileItem(2)", "mnuFileItem(3)", "mnuFileItem(6)", "mnuFileItem(7)",
+          "mnuFileItem(10)", "mnuFileItem(11)", "mnuFileItem(14)", "mnuFileItem(15)", "mnuRun"})
+        EXPECT_FALSE(during.enabled[name]) << name;
+    EXPECT_TRUE(during.enabled["mnuFileItem(18)"]); // Exit stays
+    EXPECT_TRUE(during.stopShown);
+    EXPECT_TRUE(during.enabled["mnuStop"]);
+    // Afterwards every item is as it was before.
+    const MenuState after = menuState();
+    EXPECT_EQ(after.enabled, before.enabled);
+    EXPECT_FALSE(after.stopShown);
+    EXPECT_NE(viewer(), nullptr);
+}
+
+TEST_F(RunStateTest, AfterTheRunSaveStaysDisabledInASessionThatHadItDisabled) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    main->setFileItemEnabled(14, false);
+    runAndWhileRunning([&] { writeBytes(release, ""); });
+    EXPECT_FALSE(control<QAction>(main, "mnuFileItem(14)")->isEnabled());
+    EXPECT_TRUE(control<QAction>(main, "mnuFileItem(15)")->isEnabled());
+}
+
+TEST_F(RunStateTest, StopEndsTheProgramAndSaysSo) {
+    installWaitingModel();
+    writeBytes(folder.file("shed.err"), crlf({"OLD ERROR 1", "OLD ERROR 2"}));
+    openSession(folder.file("shed.inp"));
+    runAndWhileRunning([&] { clickMenuItem("mnuStop"); });
+    EXPECT_EQ(platform.stopCount, 1);
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"Brooklet program file (Flume.exe) was stopped before its end. Its results are "
+                          "incomplete.",
+                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(viewer(), nullptr); // nothing is judged
+    EXPECT_FALSE(fileExists(folder.file("shed.out")));
+    EXPECT_FALSE(fileExists(folder.file("shed.err"))); // the old errors went before the start
+    EXPECT_FALSE(menuShown("mnuStop"));
+    EXPECT_TRUE(control<QAction>(main, "mnuRun")->isEnabled());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(RunStateTest, ExitDuringARunAnsweredYesStopsTheProgramAndEnds) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    platform.answers.push_back(BoxAnswer::Yes);
+    runAndWhileRunning([&] { clickMenuItem("mnuFileItem(18)"); });
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"Brooklet program file (Flume.exe) is running. Stop it and exit?", "BrookletSystem",
+                          BoxButtons::YesNo, BoxIcon::Question}));
+    EXPECT_EQ(platform.stopCount, 1);
+    EXPECT_EQ(platform.endCount, 1);
+    EXPECT_EQ(viewer(), nullptr);
+    EXPECT_FALSE(fileExists(folder.file("shed.out")));
+}
+
+TEST_F(RunStateTest, ExitDuringARunAnsweredNoKeepsBrookletAndTheRun) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    platform.answers.push_back(BoxAnswer::No);
+    runAndWhileRunning([&] {
+        clickMenuItem("mnuFileItem(18)");
+        writeBytes(release, "");
+    });
+    EXPECT_EQ(platform.boxTexts(),
+              std::vector<std::string>{"Brooklet program file (Flume.exe) is running. Stop it and exit?"});
+    EXPECT_EQ(platform.stopCount, 0);
+    EXPECT_EQ(platform.endCount, 0);
+    ASSERT_NE(viewer(), nullptr); // the run went on to its end
+    EXPECT_EQ(session().ViewIndex, 4);
+    EXPECT_TRUE(main->isVisible());
+}
+
+TEST_F(RunStateTest, TheCloseBoxDuringARunAsksAndNoKeepsTheWindowOpen) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    platform.answers.push_back(BoxAnswer::No);
+    bool closed = true;
+    runAndWhileRunning([&] {
+        closed = main->close();
+        writeBytes(release, "");
+    });
+    EXPECT_FALSE(closed);
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_EQ(platform.boxTexts(),
+              std::vector<std::string>{"Brooklet program file (Flume.exe) is running. Stop it and exit?"});
+    EXPECT_NE(viewer(), nullptr);
+}
+
+TEST_F(RunStateTest, TheCloseBoxDuringARunAnsweredYesStopsTheProgramAndCloses) {
+    installWaitingModel();
+    openSession(folder.file("shed.inp"));
+    platform.answers.push_back(BoxAnswer::Yes);
+    bool closed = false;
+    runAndWhileRunning([&] { closed = main->close(); });
+    EXPECT_TRUE(closed);
+    EXPECT_FALSE(main->isVisible());
+    EXPECT_EQ(platform.stopCount, 1);
+    EXPECT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(viewer(), nullptr);
+}
+
+TEST_F(RunStateTest, AConverterStoppedLoadsNothing) {
+    installProgram("Flume_Converter.exe");
+    writeBytes(folder.file("converted.txt"), crlf({"Sub-Area:", "  A1"}));
+    orders({"wait-for " + release, "copy inp " + folder.file("converted.txt")});
+    platform.openPicks.push_back(folder.file("old.dat"));
+    QTimer::singleShot(0, main, [&] { clickMenuItem("mnuStop"); });
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_EQ(platform.boxTexts(),
+              std::vector<std::string>{"Flume Input Converter (Flume_Converter.exe) was "
+                                       "stopped before its end. Its results are incomplete."});
+    EXPECT_FALSE(fileExists(folder.file("old.inp")));
+    EXPECT_EQ(session().CurrentFile, folder.file("old.dat"));
+    EXPECT_EQ(fileLength(workFile(11)), 0u);
+    EXPECT_FALSE(context->windows.shownNames().contains("frmFlume"));
+}
+
+TEST_F(RunCommandsTest, ACrashIsToldAndTheErrorFileStillDecides) {
+    installProgram("flume.exe");
+    orders({"lines out 3", "lines err 2", "crash", "lines dbg 3"});
+    openSession(folder.file("shed.inp"));
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"Brooklet program file (Flume.exe) ended abnormally. Its results may be incomplete.",
+                    "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_FALSE(fileExists(folder.file("shed.dbg"))); // the program did end at the crash
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(session().ViewIndex, 5);
+    EXPECT_EQ(control<QLabel>(viewer(), "lblWindow")->text(), "Brooklet Error File");
+}
+
+TEST_F(RunCommandsTest, ACrashWithoutErrorsShowsThePrintedPageFile) {
+    installProgram("flume.exe");
+    orders({"lines out 3", "crash"});
+    openSession(folder.file("shed.inp"));
+    run();
+    EXPECT_EQ(platform.boxTexts(), std::vector<std::string>{"Brooklet program file (Flume.exe) ended "
+                                                            "abnormally. Its results may be incomplete."});
+    EXPECT_EQ(session().ViewIndex, 4);
+    ASSERT_NE(viewer(), nullptr);
+}
+
+TEST_F(RunCommandsTest, ResultsOfAnEarlierRunAreDeletedBeforeTheStart) {
+    installProgram("flume.exe");
+    orders({"lines out 2"});
+    openSession(folder.file("shed.inp"));
+    for (const char* extension : {"out", "err", "dbg", "hyd", "ecn"})
+        writeBytes(folder.file(std::string("shed.") + extension), crlf({"EARLIER RUN", "EARLIER RUN"}));
+    writeBytes(folder.file("shed.keep"), "NOT A RESULT\r\n");
+    run();
+    EXPECT_EQ(bytesOf(folder.file("shed.out")), crlf({"RESULT LINE 1", "RESULT LINE 2"}));
+    for (const char* extension : {"err", "dbg", "hyd", "ecn"})
+        EXPECT_FALSE(fileExists(folder.file(std::string("shed.") + extension))) << extension;
+    EXPECT_EQ(bytesOf(folder.file("shed.keep")), "NOT A RESULT\r\n");
+    EXPECT_EQ(bytesOf(folder.file("shed.inp")).substr(0, 21), "Brooklet: Version 1.0");
+    // The earlier errors are not this run's: the printed page file shows.
+    EXPECT_EQ(session().ViewIndex, 4);
+    main->Form_Activate();
+    EXPECT_FALSE(control<QAction>(main, "mnuViewItem(5)")->isEnabled());
+}
+
+TEST_F(RunCommandsTest, AResultFileThatCannotBeDeletedStartsNothing) {
+    installProgram("flume.exe");
+    orders({"lines out 3"});
+    openSession(folder.file("shed.inp"));
+    createFolder(folder.file("shed.hyd/inside")); // a folder with content stands where a result was
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], (BoxRequest{"The file " + folder.file("shed.hyd") +
+                                                 " of an earlier run could not be deleted. Brooklet program "
+                                                 "file (Flume.exe) was not started.",
+                                             "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_EQ(viewer(), nullptr);
+}
+
+TEST_F(RunCommandsTest, AnUntitledSessionIsNeverRun) {
+    installProgram("flume.exe");
+    orders({"lines out 3"});
+    clickMenuItem("mnuFileItem(1)");
+    platform.savePicks.push_back(std::nullopt); // Save As, cancelled
+    clickMenuItem("mnuFileItem(15)");
+    EXPECT_FALSE(menuShown("mnuRun"));
+    EXPECT_FALSE(control<QMenu>(main, "mnuView")->menuAction()->isVisible());
+    main->Form_Activate();
+    EXPECT_FALSE(menuShown("mnuRun"));
+    RunModel(*context); // even when asked directly
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("flume.fil")));
+    EXPECT_FALSE(fileExists(folder.file("> Untitled <")));
+    EXPECT_FALSE(fileExists(folder.file("> Untitled <.out")));
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+// A Windows program on this system: the program file begins with "MZ".
+class WindowsProgramTest : public RunCommandsTest {
+protected:
+    WindowsProgramTest() : oldPath(qgetenv("PATH")) {
+        writeBytes(folder.file("flume.exe"), "MZ a Windows program\r\n");
+        createFolder(bin);
+        qputenv("PATH", QByteArray::fromStdString(bin));
+    }
+    ~WindowsProgramTest() override { qputenv("PATH", oldPath); }
+    const QByteArray oldPath;
+    const std::string bin = folder.file("bin");
+};
+
+TEST_F(WindowsProgramTest, StartsThroughWineFromThePath) {
+    // A stand-in Wine: notes its arguments and the folder it runs in, and leaves a printed page.
+    const std::string wine = bin + "/wine";
+    writeBytes(wine, "#!/bin/sh\nprintf '%s\\n' \"$@\" > wine_seen.txt\npwd >> wine_seen.txt\n"
+                     "printf 'PAGE\\r\\n' > \"" +
+                         folder.file("shed.out") + "\"\n");
+    fs::permissions(wine, fs::perms::owner_all);
+    const std::string shed = openSession(folder.file("shed.inp"));
+    run();
+    EXPECT_TRUE(platform.boxes.empty());
+    ASSERT_EQ(platform.programsRun.size(), 1u);
+    EXPECT_EQ(platform.programsRun[0].program, wine);
+    EXPECT_EQ(platform.programsRun[0].arguments, std::vector<std::string>{"./flume.exe"});
+    EXPECT_EQ(bytesOf(folder.file("wine_seen.txt")), "./flume.exe\n" + folder.path() + "\n");
+    EXPECT_EQ(bytesOf(folder.file("flume.fil")), shed + "\r\n\r\n");
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(control<QPlainTextEdit>(viewer(), "RichTextBox1")->toPlainText(), "PAGE\n");
+}
+
+TEST_F(WindowsProgramTest, WithoutWineTheBoxSaysTheProgramNeedsIt) {
+    openSession(folder.file("shed.inp"));
+    writeBytes(folder.file("shed.out"), crlf({"EARLIER", "RUN"}));
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"Brooklet program file (Flume.exe) is a Windows program and needs Wine to run on this "
+                    "system; Wine was not found on the PATH.",
+                    "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("flume.fil")));
+    EXPECT_TRUE(fileExists(folder.file("shed.out"))); // nothing ran, so nothing was cleared away
+    EXPECT_EQ(viewer(), nullptr);
 }
 
 TEST_F(RunCommandsTest, ConvertLoadsTheConvertedFileWithoutAQuestion) {

@@ -127,7 +127,9 @@ TEST_F(MainWindowTest, MenusCarryTheirCaptionsAtTheirIndexes) {
     QStringList bar;
     for (QAction* action : main->menuBar()->actions())
         bar << action->text().trimmed();
-    EXPECT_EQ(bar, (QStringList{"File", "", "View", "", "Run", "Plots", "", "Help"}));
+    // "Stop" shows only while a program runs.
+    EXPECT_EQ(bar, (QStringList{"File", "", "View", "", "Run", "Stop", "Plots", "", "Help"}));
+    EXPECT_FALSE(control<QAction>(main, "mnuStop")->isVisible());
     for (const char* spacer : {"mnuSpace1", "mnuspace4", "mnuspace5"})
         EXPECT_TRUE(control<QMenu>(main, spacer)->actions().isEmpty()) << spacer;
 }

@@ -52,9 +52,11 @@ std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSett
     return pick;
 }
 
-bool ScriptedPlatform::runProgramAndWait(const std::string& program, const std::string& folder) {
-    programsRun.emplace_back(program, folder);
-    return runHiddenAndWait(program, folder);
+ProgramEnd ScriptedPlatform::runProgramAndWait(const std::string& program,
+                                               const std::vector<std::string>& arguments,
+                                               const std::string& folder) {
+    programsRun.push_back({program, arguments, folder});
+    return runner_.runHiddenAndWait(program, arguments, folder);
 }
 
 namespace {

@@ -7,8 +7,7 @@
 #include <vector>
 
 #include "session/platform.h"
-
-#include <utility>
+#include "session/qt_platform.h"
 
 namespace brooklet::test {
 
@@ -19,7 +18,12 @@ public:
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override { ++endCount; }
     // Programs really run, as the program runs them; the start is recorded.
-    bool runProgramAndWait(const std::string& program, const std::string& folder) override;
+    ProgramEnd runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                 const std::string& folder) override;
+    void stopProgram() override {
+        ++stopCount;
+        runner_.stop();
+    }
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
     bool showPrintRangeDialog(PrintRangeRecord& record) override;
     PresentPrinter presentPrinter() override { return present; }
@@ -76,8 +80,14 @@ public:
     };
     std::vector<PrintJob> printJobs;
     std::vector<PrinterDialogSettings> printerDialogs;
-    // Program and folder of every program started.
-    std::vector<std::pair<std::string, std::string>> programsRun;
+    // Every program started: its program, arguments and folder.
+    struct ProgramRun {
+        std::string program;
+        std::vector<std::string> arguments;
+        std::string folder;
+    };
+    std::vector<ProgramRun> programsRun;
+    int stopCount = 0;
 
     std::vector<BoxRequest> boxes;
     std::vector<FileDialogSettings> openDialogs;
@@ -86,6 +96,9 @@ public:
 
     // The texts of all boxes shown so far.
     std::vector<std::string> boxTexts() const;
+
+private:
+    ProgramRunner runner_;
 };
 
 } // namespace brooklet::test

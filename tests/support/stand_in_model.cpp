@@ -4,9 +4,11 @@
 //   lines EXT N        writes BASE.EXT with N lines
 //   copy EXT SOURCE    copies the file SOURCE to BASE.EXT
 //   wait-for PATH      waits until PATH exists (at most one minute)
+//   crash              ends at once, killed by a signal
 // BASE is the data file of the control file without its extension. The control file's first
 // line is kept in "stand_in_seen.txt", so a test sees which file the program was given.
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -50,6 +52,8 @@ int main(int, char** argv) {
         std::istringstream words(order);
         std::string verb, argument;
         words >> verb;
+        if (verb == "crash")
+            std::raise(SIGKILL);
         if (verb == "wait-for") {
             std::getline(words >> std::ws, argument);
             for (int i = 0; i < 6000 && !fs::exists(argument); ++i)
