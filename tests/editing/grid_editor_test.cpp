@@ -750,6 +750,59 @@ TEST(StoreRowGrid, AShrunkTableBlanksTheRowsItLeftAndAGrownOneMovesTheLaterTable
     EXPECT_EQ(storeRow(context, 9), (Texts{"231", "232", "233"}));
 }
 
+TEST(StoreRowGrid, ATableEmptiedOfAllItsRowsKeepsItsPlaceAsAFlowGridTableDoes) {
+    RowWindow window;
+    resetTabularTables(window.context, 2, 3, " ");
+    GridContext& context = window.context;
+    const int rating = addTable(context);
+    const int other = addTable(context);
+    for (int table : {rating, other}) {
+        for (int row = 1; row <= 2; ++row) {
+            context.ValueStore.ensureRows(++context.ValueCount);
+            for (int field = 1; field <= 3; ++field)
+                context.ValueStore(field, context.ValueCount) =
+                    std::to_string(table * 100 + row * 10 + field);
+            if (context.TableFirst[size_t(table)] == 0)
+                context.TableFirst[size_t(table)] = context.ValueCount;
+            context.TableLast[size_t(table)] = context.ValueCount;
+        }
+    }
+    context.TableCurrent = rating;
+    context.TableNext = rating;
+    context.GridRowsUsed = 0;
+    StoreRowGrid(context, window.grid);
+    EXPECT_EQ(context.TableFirst[size_t(rating)], 1);
+    EXPECT_EQ(context.TableLast[size_t(rating)], 0);
+    EXPECT_EQ(storeRow(context, 1), (Texts{" ", " ", " "}));
+    EXPECT_EQ(storeRow(context, 2), (Texts{" ", " ", " "}));
+    EXPECT_EQ(context.TableFirst[size_t(other)], 3);
+    EXPECT_EQ(context.ValueCount, 4);
+
+    // The same as a flow grid's table emptied of its values.
+    GridContext flow;
+    resetTabularTables(flow, 1, 1, " ");
+    const int series = addTable(flow);
+    flow.ValueStore.ensureRows(2);
+    flow.ValueCount = 2;
+    flow.TableFirst[size_t(series)] = 1;
+    flow.TableLast[size_t(series)] = 2;
+    flow.TableCurrent = series;
+    MemoryGrid empty(2, 5);
+    StoreFlowGrid(flow, empty, 0);
+    EXPECT_EQ(flow.TableFirst[size_t(series)], context.TableFirst[size_t(rating)]);
+    EXPECT_EQ(flow.TableLast[size_t(series)], context.TableLast[size_t(rating)]);
+
+    // Rows typed again take the same place; the table behind makes room for them.
+    window.key("5");
+    window.fill("6", "7");
+    StoreRowGrid(context, window.grid);
+    EXPECT_EQ(context.TableFirst[size_t(rating)], 1);
+    EXPECT_EQ(context.TableLast[size_t(rating)], 1);
+    EXPECT_EQ(storeRow(context, 1), (Texts{"5", "6", "7"}));
+    EXPECT_EQ(context.TableFirst[size_t(other)], 4);
+    EXPECT_EQ(storeRow(context, 4), (Texts{"211", "212", "213"}));
+}
+
 TEST(StoreRowGrid, NothingIsStoredForNoTable) {
     RowWindow window;
     resetTabularTables(window.context, 2, 3, " ");
