@@ -368,5 +368,18 @@ TEST_F(LocalLandUseEditorTest, ALabelClickTogglesItsHelp) {
     EXPECT_FALSE(help->isVisible());
 }
 
+TEST_F(LocalLandUseEditorTest, TheHeaderShowsTheWindowsEntryOfTheShippedHelp) {
+    open();
+    auto* help = control<QPlainTextEdit>(window, "txtHelp");
+    click(control<QLabel>(window, "lblHeader"));
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(helpBoxText(help).rfind(
+                  std::string(10, ' ') + "Local Land Use Definitions \r\nYour own land uses", 0),
+              0u);
+    EXPECT_EQ(session().HelpShown, 0);
+    click(control<QLabel>(window, "lblHeader"));
+    EXPECT_FALSE(help->isVisible());
+}
+
 } // namespace
 } // namespace brooklet::test
