@@ -145,6 +145,35 @@ TEST_F(LocalLandUseEditorTest, ANewEntryIsTypedTabbedThroughAndAccepted) {
     EXPECT_FALSE(session().DataChanged);
 }
 
+TEST_F(LocalLandUseEditorTest, TabInTheListChecksTheNameOnlyAndEnterLeavesTheList) {
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "Lot");
+    QTest::keyClick(list(), Qt::Key_Tab);
+    // No row is selected yet: the name is refused and the focus stays; nothing is added.
+    EXPECT_EQ(focused(), list());
+    EXPECT_EQ(listItems(), Texts{});
+    EXPECT_EQ(window->LocalLandUse.Count, 0);
+    EXPECT_EQ(background(box(1)), RefusedColour);
+    QTest::keyClick(list(), Qt::Key_Return);
+    EXPECT_EQ(listItems(), Texts{"Lot"});
+    EXPECT_EQ(window->LocalLandUse.Count, 1);
+    EXPECT_EQ(focused(), box(2));
+}
+
+TEST_F(LocalLandUseEditorTest, TabInTheListLeavesItWhenTheFocusGoes) {
+    localFile(LotAndYard);
+    open();
+    enterName("Lot");
+    list()->setFocus();
+    list()->setEditText("Pasture");
+    QTest::keyClick(list(), Qt::Key_Tab);
+    // The name of the row selected passes its check; the focus goes on, and with it the list
+    // is left: the shadow box takes the list's text.
+    EXPECT_EQ(focused(), box(2));
+    EXPECT_EQ(box(1)->text(), "Pasture");
+}
+
 TEST_F(LocalLandUseEditorTest, BIsBelowAAndTurnsRedWhileAnEqualBIsAccepted) {
     open();
     enterName("Lot");

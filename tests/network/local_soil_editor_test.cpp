@@ -120,10 +120,15 @@ TEST_F(LocalSoilEditorTest, TicksAreStoredWhenAnotherSoilIsPicked) {
     open();
     enterName("Clay");
     click(check(4));
-    // Tab in the list leaves it too, and keeps the focus there.
+    // Tab in the list checks the name only and keeps the focus there; Enter leaves the list.
     list()->setFocus();
     list()->setEditText("Silt loam");
     QTest::keyClick(list(), Qt::Key_Tab);
+    EXPECT_EQ(focused(), list());
+    EXPECT_EQ(ticked(), "CD");
+    EXPECT_EQ(box(1)->text(), "Clay");
+    EXPECT_EQ(window->LocalSoil.row(2), (FiveTexts{"Clay", "", "", "", "D"}));
+    QTest::keyClick(list(), Qt::Key_Return);
     EXPECT_EQ(focused(), list());
     EXPECT_EQ(ticked(), "BC");
     EXPECT_EQ(window->LocalSoil.row(2), (FiveTexts{"Clay", "", "", "C", "D"}));
