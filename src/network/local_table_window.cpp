@@ -149,6 +149,14 @@ void LocalTableWindow::focusBox(int index) {
         EntryWindow::focusBox(index);
 }
 
+QStringList LocalTableWindow::editState() const {
+    QStringList state = EntryWindow::editState();
+    for (int row = 1; row <= Table.Count; ++row)
+        for (const std::string& field : Table.row(row))
+            state << fromBytes(field);
+    return state;
+}
+
 void LocalTableWindow::listKey(bool enter) {
     if (enter)
         leaveList();

@@ -63,6 +63,8 @@ protected:
     std::vector<std::string> sectionRecords() override { return {}; }
     // Box 1 lives in the list.
     void focusBox(int index) override;
+    // The rows stored away from the boxes count as edits too.
+    QStringList editState() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     // The list copies the shadow box.

@@ -7,8 +7,10 @@
 #include "network/local_land_use_editor.h"
 #include "session/text_file.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 namespace brooklet::test {
 namespace {
@@ -395,6 +397,54 @@ TEST_F(LocalLandUseEditorTest, ALabelClickTogglesItsHelp) {
                   "Curve Number \"B\" \r\nGroup B.\r\n          Range - 30 to 100\r\n\r\n");
     click(control<QLabel>(window, "lblInput(3)"));
     EXPECT_FALSE(help->isVisible());
+}
+
+// ---- Keys and the close box ---------------------------------------------------------------------
+
+TEST_F(LocalLandUseEditorTest, EscapeIsNoChangesAndCtrlEnterAcceptsWhatTheListHolds) {
+    localFile(LotAndYard);
+    open();
+    enterName("Lot");
+    typeAndPress(2, "72");
+    QTest::keyClick(box(3), Qt::Key_Escape);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(localFileBytes(), LotAndYard);
+
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "Pasture");
+    QTest::keyClick(list(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_TRUE(platform.boxes.empty());
+    // Pasture has no curve number, so it is not written; the file is written all the same.
+    EXPECT_EQ(localFileBytes(), LotAndYard);
+}
+
+TEST_F(LocalLandUseEditorTest, TheCloseBoxAfterTypingAsksAndYesWritesTheFile) {
+    open();
+    enterName("Orchard");
+    typeAndPress(2, "45");
+    platform.answers.push_back(BoxAnswer::Yes);
+    QCloseEvent closing;
+    QApplication::sendEvent(window->windowHandle(), &closing);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{
+                  "Keep the changes made in this window? Yes accepts them, No discards them, Cancel returns "
+                  "to the window.",
+                  "Local Land Use", BoxButtons::YesNoCancel, BoxIcon::Question}));
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(localFileBytes(), "\"Orchard\",\"45\",\"\",\"\",\"\"\r\n\"\"\r\n");
+}
+
+TEST_F(LocalLandUseEditorTest, TheCloseBoxWithNothingTypedAsksNothing) {
+    localFile(LotAndYard);
+    open();
+    QCloseEvent closing;
+    QApplication::sendEvent(window->windowHandle(), &closing);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_TRUE(platform.boxes.empty());
 }
 
 TEST_F(LocalLandUseEditorTest, TheHeaderShowsTheWindowsEntryOfTheShippedHelp) {
