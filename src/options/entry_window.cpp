@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -20,6 +21,8 @@
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace brooklet {
 namespace {
@@ -234,8 +237,22 @@ void EntryWindow::addRow(QWidget* label, std::initializer_list<QWidget*> fields,
     if (label)
         form_->addWidget(label, row, 0, Qt::AlignLeft | Qt::AlignTop);
     auto* line = new QHBoxLayout;
-    for (QWidget* field : fields)
-        line->addWidget(field);
+    // Option buttons of a row form a group that carries the row's label, so a screen reader
+    // says it with each option.
+    const auto* caption = qobject_cast<QLabel*>(label);
+    const bool options =
+        caption && fields.size() > 0 && std::all_of(fields.begin(), fields.end(), [](QWidget* field) {
+            return qobject_cast<QRadioButton*>(field) != nullptr;
+        });
+    if (options) {
+        auto* group = new OptionGroup(caption->text(), this);
+        for (QWidget* field : fields)
+            group->layout()->addWidget(field);
+        line->addWidget(group);
+    } else {
+        for (QWidget* field : fields)
+            line->addWidget(field);
+    }
     if (unit)
         line->addWidget(unit);
     line->addStretch();

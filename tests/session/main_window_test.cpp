@@ -4,6 +4,7 @@
 #include "session/text_file.h"
 #include "session/view_menu.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QGroupBox>
 #include <QLabel>
@@ -203,6 +204,24 @@ TEST_F(MainWindowTest, TheSectionListKeepsItsRowWhenAnEditorHasClosed) {
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(main->pickedSection(), 4);
     EXPECT_EQ(context->windows.shownNames(), (QStringList{"frmDurInc", "frmGlobal"}));
+}
+
+TEST_F(MainWindowTest, EveryWindowIsAWindowToTheAccessibilityLayer) {
+    startMain();
+    auto role = [](QWidget* window) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(window);
+        return spoken ? spoken->role() : QAccessible::NoRole;
+    };
+    EXPECT_EQ(role(main), QAccessible::Window);
+    const QStringList names = context->windows.registeredNames();
+    ASSERT_GE(names.size(), 10);
+    for (const QString& name : names) {
+        QWidget* window = context->windows.ShowWindowAtOrigin(name);
+        ASSERT_NE(window, nullptr) << name.toStdString();
+        const QAccessible::Role spoken = role(window);
+        EXPECT_TRUE(spoken == QAccessible::Window || spoken == QAccessible::Dialog)
+            << name.toStdString() << " is spoken of as role " << spoken;
+    }
 }
 
 TEST_F(MainWindowTest, EveryControlHasAnAccessibleName) {
