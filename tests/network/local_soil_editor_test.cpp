@@ -245,6 +245,18 @@ TEST_F(DisplaySoilTest, ShowsTheSoilsSortedCaseNotCountingWithTheFindBoxFocused)
     EXPECT_EQ(focused(), findBox());
 }
 
+TEST_F(DisplaySoilTest, TheSortIgnoresCaseWhereCaseWouldChangeTheOrder) {
+    soilFile("\"peat\",\"D\"\r\n\"Muck\",\"D\"\r\n\"adobe\",\"D\"\r\n\"Loam\",\"B\"\r\n\"\"\r\n");
+    open();
+    ASSERT_EQ(table->rowCount(), 5);
+    // With case counting the capitals would come first: Loam, Muck, adobe, peat.
+    const Texts names{"adobe", "Loam", "Muck", "peat"};
+    for (int row = 1; row <= 4; ++row)
+        EXPECT_EQ(cell(row, 0), names[row - 1]) << row;
+    QTest::keyClicks(findBox(), "m");
+    EXPECT_EQ(markedRows(), std::vector<int>{3});
+}
+
 TEST_F(DisplaySoilTest, TheFindBoxStopsAtTheFirstSoilInSortedOrderThatBeginsWithTheText) {
     soilFile("\"silt\",\"B\"\r\n\"Clay\",\"D\"\r\n\"clay loam\",\"C/D\"\r\n\"Adobe\",\"D\"\r\n\"\"\r\n");
     open();
