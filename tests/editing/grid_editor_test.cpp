@@ -677,6 +677,25 @@ Texts storeRow(const GridContext& context, int position) {
     return texts;
 }
 
+// Two tables of Rows rows of three fields, one behind the other; field f of row r of table t
+// holds t r f as digits. Gives the two tables.
+std::pair<int, int> twoFilledTables(GridContext& context, int rows) {
+    resetTabularTables(context, 2, 3, " ");
+    const std::pair<int, int> tables{addTable(context), addTable(context)};
+    for (int table : {tables.first, tables.second}) {
+        for (int row = 1; row <= rows; ++row) {
+            context.ValueStore.ensureRows(++context.ValueCount);
+            for (int field = 1; field <= 3; ++field)
+                context.ValueStore(field, context.ValueCount) =
+                    std::to_string(table * 100 + row * 10 + field);
+            if (context.TableFirst[size_t(table)] == 0)
+                context.TableFirst[size_t(table)] = context.ValueCount;
+            context.TableLast[size_t(table)] = context.ValueCount;
+        }
+    }
+    return tables;
+}
+
 TEST(StoreRowGrid, RowsGoToTheStoreAndTheNextTableComesOnShow) {
     RowWindow window;
     resetTabularTables(window.context, 2, 3, " ");
@@ -702,21 +721,8 @@ TEST(StoreRowGrid, RowsGoToTheStoreAndTheNextTableComesOnShow) {
 
 TEST(StoreRowGrid, AShrunkTableBlanksTheRowsItLeftAndAGrownOneMovesTheLaterTables) {
     RowWindow window;
-    resetTabularTables(window.context, 2, 3, " ");
     GridContext& context = window.context;
-    const int rating = addTable(context);
-    const int other = addTable(context);
-    for (int table : {rating, other}) {
-        for (int row = 1; row <= 3; ++row) {
-            context.ValueStore.ensureRows(++context.ValueCount);
-            for (int field = 1; field <= 3; ++field)
-                context.ValueStore(field, context.ValueCount) =
-                    std::to_string(table * 100 + row * 10 + field);
-            if (context.TableFirst[size_t(table)] == 0)
-                context.TableFirst[size_t(table)] = context.ValueCount;
-            context.TableLast[size_t(table)] = context.ValueCount;
-        }
-    }
+    const auto [rating, other] = twoFilledTables(context, 3);
     window.key("5");
     window.fill("6", "7");
     window.nextRow();
@@ -752,21 +758,8 @@ TEST(StoreRowGrid, AShrunkTableBlanksTheRowsItLeftAndAGrownOneMovesTheLaterTable
 
 TEST(StoreRowGrid, ATableEmptiedOfAllItsRowsKeepsItsPlaceAsAFlowGridTableDoes) {
     RowWindow window;
-    resetTabularTables(window.context, 2, 3, " ");
     GridContext& context = window.context;
-    const int rating = addTable(context);
-    const int other = addTable(context);
-    for (int table : {rating, other}) {
-        for (int row = 1; row <= 2; ++row) {
-            context.ValueStore.ensureRows(++context.ValueCount);
-            for (int field = 1; field <= 3; ++field)
-                context.ValueStore(field, context.ValueCount) =
-                    std::to_string(table * 100 + row * 10 + field);
-            if (context.TableFirst[size_t(table)] == 0)
-                context.TableFirst[size_t(table)] = context.ValueCount;
-            context.TableLast[size_t(table)] = context.ValueCount;
-        }
-    }
+    const auto [rating, other] = twoFilledTables(context, 2);
     context.TableCurrent = rating;
     context.TableNext = rating;
     context.GridRowsUsed = 0;

@@ -89,6 +89,14 @@ protected:
         // An accepting answer closes the window once the close box's event has gone.
         QCoreApplication::processEvents();
     }
+    // Opens the window, types Text into box 2 and closes the window by its close box; the
+    // question is answered with Answer.
+    void closeBoxAfterTyping(const QString& text, BoxAnswer answer) {
+        open();
+        typeInto(2, text);
+        platform.answers.push_back(answer);
+        closeBox();
+    }
     void typeInto(int index, const QString& text) {
         box(index)->setFocus();
         QTest::keyClicks(box(index), text);
@@ -272,10 +280,7 @@ TEST_F(EntryWindowTest, TheCloseBoxWithNothingTypedAsksNothing) {
 }
 
 TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAsksAndYesAccepts) {
-    open();
-    typeInto(2, "kept");
-    platform.answers.push_back(BoxAnswer::Yes);
-    closeBox();
+    closeBoxAfterTyping("kept", BoxAnswer::Yes);
     ASSERT_EQ(platform.boxes.size(), 1u);
     EXPECT_EQ(platform.boxes[0], KeepChanges);
     EXPECT_TRUE(closed());
@@ -285,10 +290,7 @@ TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAsksAndYesAccepts) {
 }
 
 TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAnsweredNoDiscards) {
-    open();
-    typeInto(2, "dropped");
-    platform.answers.push_back(BoxAnswer::No);
-    closeBox();
+    closeBoxAfterTyping("dropped", BoxAnswer::No);
     EXPECT_EQ(platform.boxTexts(), std::vector<std::string>{KeepChanges.text});
     EXPECT_TRUE(closed());
     EXPECT_EQ(fileLength(workFile(3)), 0u);
@@ -296,10 +298,7 @@ TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAnsweredNoDiscards) {
 }
 
 TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAnsweredCancelStays) {
-    open();
-    typeInto(2, "typed");
-    platform.answers.push_back(BoxAnswer::Cancel);
-    closeBox();
+    closeBoxAfterTyping("typed", BoxAnswer::Cancel);
     EXPECT_EQ(platform.boxes.size(), 1u);
     EXPECT_FALSE(closed());
     EXPECT_TRUE(window->isVisible());
