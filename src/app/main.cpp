@@ -4,12 +4,14 @@
 
 #include "app/main_window.h"
 #include "app/window_catalog.h"
+#include "editing/widgets.h"
 #include "session/app_context.h"
 #include "session/qt_platform.h"
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("Brooklet");
+    brooklet::installAccessibility();
     brooklet::QtPlatform platform;
     brooklet::AppContext context(platform);
     brooklet::registerAllWindows(context.windows);

@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
@@ -45,6 +46,15 @@ void addMenuItems(QMenu* menu, const QString& arrayName, int first, int last,
         action->setObjectName(indexedName(arrayName, index));
         items.add(index, action);
     }
+}
+
+// Gives a menu item the platform's keys for a standard command; Fallback where the platform has
+// none, so that every such command has a key.
+void setStandardKeys(QAction* action, QKeySequence::StandardKey key, const QKeySequence& fallback) {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    if (keys.isEmpty() && !fallback.isEmpty())
+        keys << fallback;
+    action->setShortcuts(keys);
 }
 
 } // namespace
@@ -150,6 +160,12 @@ void frmMain::buildMenus() {
             connect(action, &QAction::triggered, this, [this, index = index] { fileCommand(index); });
     fileItem(14)->setEnabled(false);
     fileItem(15)->setEnabled(false);
+    // The platform's standard keys, shown in the menu beside the captions.
+    setStandardKeys(fileItem(1), QKeySequence::New, {});
+    setStandardKeys(fileItem(2), QKeySequence::Open, {});
+    setStandardKeys(fileItem(14), QKeySequence::Save, {});
+    setStandardKeys(fileItem(15), QKeySequence::SaveAs, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    setStandardKeys(fileItem(18), QKeySequence::Quit, QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     auto spacer = [bar](const char* name) {
         QMenu* menu = bar->addMenu("    ");
@@ -180,6 +196,7 @@ void frmMain::buildMenus() {
     spacer("mnuspace4");
     mnuRun = bar->addAction("Run");
     mnuRun->setObjectName("mnuRun");
+    mnuRun->setShortcut(Qt::Key_F5);
     connect(mnuRun, &QAction::triggered, this, [this] { RunModel(context_); });
     mnuStop = bar->addAction("Stop");
     mnuStop->setObjectName("mnuStop");
@@ -260,6 +277,9 @@ void frmMain::Form_Activate() {
 
 void frmMain::RefreshSectionList() {
     const Session& session = context_.session;
+    // The row the keyboard stands on stays across the refresh, so the arrows and Enter go on
+    // from it when an editor has closed.
+    const int current = CurrentLst->currentRow();
     CurrentLst->clear();
     for (int i = 1; i <= 14; ++i) {
         // Opening for appending creates an empty work file for a section that has none.
@@ -267,6 +287,8 @@ void frmMain::RefreshSectionList() {
         const std::string prefix = fileLength(session.WorkFilePath[i]) > 0 ? "X   " : "     ";
         CurrentLst->addItem(fromBytes(prefix + session.SectionTable[i]));
     }
+    if (current >= 0)
+        CurrentLst->setCurrentRow(current);
     // All fourteen sections in sight at once.
     CurrentLst->setMinimumHeight(CurrentLst->sizeHintForRow(0) * 14 + 2 * CurrentLst->frameWidth() + 4);
 }

@@ -426,15 +426,12 @@ void StoreRowGrid(GridContext& context, GridControl& Grid) {
                     context.ValueStore(col - context.GridFirstCol + 1, first + i - 1) =
                         Grid.cellText(row, col);
             }
-            // Rows the table no longer uses keep their place, blank.
+            // Rows the table no longer uses keep their place, blank. A table emptied of all its
+            // rows keeps its place too, with its last position just before its first, as a flow
+            // grid's table does.
             for (int position = first + count; position <= first + oldRows - 1; ++position)
                 context.ValueStore.fillRow(position, " ");
-            if (count > 0) {
-                context.TableLast[size_t(table)] = first + count - 1;
-            } else {
-                context.TableFirst[size_t(table)] = 0;
-                context.TableLast[size_t(table)] = 0;
-            }
+            context.TableLast[size_t(table)] = first + count - 1;
         }
     }
     context.TableCurrent = context.TableNext;

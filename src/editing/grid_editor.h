@@ -100,7 +100,8 @@ void PutRowInOrder(GridContext& context, GridControl& Grid);
 void DeleteGridRow(GridContext& context, GridControl& Grid, GridBoxes& Boxes);
 void ClearRowGrid(GridContext& context, GridControl& Grid);
 void LoadRowIntoBoxes(GridContext& context, GridBoxes& Boxes, GridControl& Grid);
-// Puts the rows in use back into table TableCurrent, then shows TableNext.
+// Puts the rows in use back into table TableCurrent, then shows TableNext. A table that shrinks,
+// to no rows too, keeps its place in the store.
 void StoreRowGrid(GridContext& context, GridControl& Grid);
 
 } // namespace brooklet

@@ -20,7 +20,8 @@ std::vector<int> indexRange(int first, int last) {
 }
 
 std::vector<int> verificationIndexes() {
-    std::vector<int> indexes;
+    // The header (0) shows the window's entry, as in every entry window.
+    std::vector<int> indexes{0};
     for (const auto& [first, last] : {std::pair{1, 15}, std::pair{21, 29}, std::pair{31, 41}})
         for (int i = first; i <= last; ++i)
             indexes.push_back(i);
@@ -135,7 +136,7 @@ const std::vector<HelpRequests>& HelpCodeTable() {
         {"SA", "frmStorm", indexRange(0, 7)},
         {"SR", "frmStruct", indexRange(0, 5)},
         {"RD", "frmRainDist", indexRange(0, 3)},
-        {"LL", "frmLocalLanduse", indexRange(1, 5)},
+        {"LL", "frmLocalLanduse", indexRange(0, 5)},
         {"IH", "frmInpHyd", indexRange(0, 8)},
         {"XS", "frmXsect", indexRange(0, 10)},
         {"RC", "frmReaches", indexRange(0, 18)},

@@ -222,23 +222,24 @@ void FillStormRainList(const Session& session, RainfallTable& Rainfall, ListCont
     Rainfall.RainfallIds.assign(2, std::string());
     Rainfall.Rainfall2Yr.assign(2, 0.0f);
     Rainfall.RainfallCount = 0;
-    // Row of each rain gage in the table, by its exact name.
-    std::unordered_map<std::string, int> rowOf;
+    // The first row of each rain gage name in the table, by its exact name. A storm line with
+    // a blank gage takes part too: its row, named blank, gives the rainfall to sub-areas that
+    // name no gage.
+    std::unordered_map<std::string, int> firstRowOf;
     for (const auto& line : sectionLines(session, StormSection)) {
         const std::string gage = cols(line, 21, 30);
-        if (gage.empty())
-            continue;
-        adder.addField(gage);
+        if (!gage.empty())
+            adder.addField(gage);
         const std::string rain = cols(line, 71, 80);
         const auto value = [&rain] {
             const auto single = toSingle(rain);
             return single ? *single : static_cast<float>(leadingNumber(rain));
         };
-        const auto found = rowOf.find(gage);
-        if (found != rowOf.end()) {
-            // A later line of the same gage with a rainfall replaces the one held.
-            if (!rain.empty())
-                Rainfall.Rainfall2Yr[size_t(found->second)] = value();
+        // A later line of a gage with a rainfall gives it to the gage's first row. A later
+        // line with a blank rainfall finds no row and adds one of its own, at 0.
+        const auto found = firstRowOf.find(gage);
+        if (found != firstRowOf.end() && !rain.empty()) {
+            Rainfall.Rainfall2Yr[size_t(found->second)] = value();
             continue;
         }
         const int row = ++Rainfall.RainfallCount;
@@ -246,7 +247,7 @@ void FillStormRainList(const Session& session, RainfallTable& Rainfall, ListCont
         Rainfall.Rainfall2Yr.resize(size_t(row) + 1, 0.0f);
         Rainfall.RainfallIds[size_t(row)] = gage;
         Rainfall.Rainfall2Yr[size_t(row)] = rain.empty() ? 0.0f : value();
-        rowOf.emplace(gage, row);
+        firstRowOf.emplace(gage, row);
     }
     for (const auto& line : sectionLines(session, SubAreaSection)) {
         const std::string name = cols(line, 11, 20);

@@ -1,7 +1,12 @@
 #include "editing/widgets.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QDialog>
 #include <QFile>
 #include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QMainWindow>
 #include <QPalette>
 
 namespace brooklet {
@@ -45,6 +50,36 @@ Rgb background(const QWidget* control) {
 
 bool leavesTheField(const QFocusEvent* event) {
     return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+}
+
+OptionGroup::OptionGroup(const QString& label, QWidget* parent) : QWidget(parent) {
+    setAccessibleName(label.trimmed());
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+}
+
+namespace {
+
+// Asked for the most derived class of an object first: a window or group of the program gets
+// its role here, everything else goes on to Qt's own interfaces.
+QAccessibleInterface* programAccessible(const QString& className, QObject* object) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (!widget || className != QLatin1String(object->metaObject()->className()))
+        return nullptr;
+    if (qobject_cast<OptionGroup*>(widget))
+        return new QAccessibleWidget(widget, QAccessible::Grouping);
+    // Main windows, dialogs, menus and tool tips have their own roles already.
+    const bool plainWindow = widget->isWindow() && widget->windowType() == Qt::Window &&
+                             !qobject_cast<QMainWindow*>(widget) && !qobject_cast<QDialog*>(widget);
+    if (plainWindow)
+        return new QAccessibleWidget(widget, QAccessible::Window);
+    return nullptr;
+}
+
+} // namespace
+
+void installAccessibility() {
+    QAccessible::installFactory(programAccessible);
 }
 
 } // namespace brooklet

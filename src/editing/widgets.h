@@ -47,6 +47,20 @@ constexpr int twips(int width) {
 // window or to the field's own drop-down.
 bool leavesTheField(const QFocusEvent* event);
 
+// The container of a group of option buttons. It carries the group's label as its accessible
+// name, and the accessibility layer speaks of it as a group, so that a screen reader says the
+// label with each option of the group.
+class OptionGroup : public QWidget {
+    Q_OBJECT
+public:
+    explicit OptionGroup(const QString& label, QWidget* parent);
+};
+
+// Tells the accessibility layer that every top-level window of the program is a window, not a
+// plain panel, and that an OptionGroup is a group. Called once, by the program's main and by
+// the main of the window tests.
+void installAccessibility();
+
 // A control array: controls that share a name and differ by a meaningful index.
 template <typename T> class ControlArray {
 public:

@@ -54,8 +54,8 @@ void frmLocalSoil::buildControls() {
         groups->addWidget(label, 0, group - FirstGroup, Qt::AlignHCenter);
         groups->addWidget(check, 1, group - FirstGroup, Qt::AlignHCenter);
     }
-    auto* groupBox = new QWidget(this);
-    groupBox->setLayout(groups);
+    auto* groupBox = new OptionGroup(GroupsLabel, this);
+    static_cast<QHBoxLayout*>(groupBox->layout())->addLayout(groups);
     addRow(addLabel(7, GroupsLabel), {groupBox});
 
     auto* comment = new QLabel("Check all HSGs that apply to the Local Soil Identifier", this);

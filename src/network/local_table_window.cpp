@@ -140,11 +140,21 @@ void LocalTableWindow::focusBox(int index) {
         EntryWindow::focusBox(index);
 }
 
-void LocalTableWindow::listKey() {
-    leaveList();
+QStringList LocalTableWindow::editState() const {
+    QStringList state = EntryWindow::editState();
+    for (int row = 1; row <= Table.Count; ++row)
+        for (const std::string& field : Table.row(row))
+            state << fromBytes(field);
+    return state;
+}
+
+void LocalTableWindow::listKey(bool enter) {
+    if (enter)
+        leaveList();
     const int from = checkBox(1) ? 1 : 0;
-    // The key has left the list already: the focus it sends on is no second leaving.
-    movingOn_ = true;
+    // Enter has left the list already: the focus it sends on is no second leaving. After Tab
+    // the list is left when the focus goes.
+    movingOn_ = enter;
     focusBox(nextBox(from));
     movingOn_ = false;
 }
@@ -153,10 +163,10 @@ bool LocalTableWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == cmbInp(1)) {
         if (event->type() == QEvent::KeyPress) {
             const auto* key = static_cast<QKeyEvent*>(event);
-            const bool move =
-                key->key() == Qt::Key_Tab || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+            const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+            const bool move = enter || key->key() == Qt::Key_Tab;
             if (move && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
-                listKey();
+                listKey(enter);
                 return true;
             }
         } else if (event->type() == QEvent::FocusOut && !movingOn_ &&

@@ -63,6 +63,8 @@ protected:
     std::vector<std::string> sectionRecords() override { return {}; }
     // Box 1 lives in the list.
     void focusBox(int index) override;
+    // The rows stored away from the boxes count as edits too.
+    QStringList editState() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     // The list copies the shadow box.
@@ -76,10 +78,10 @@ protected:
     LocalTable Table;
 
 private:
-    // Tab or Enter in the list: the list is left (by Tab too, as the check of the shadow box
-    // depends on the row selected), then box 1 is checked and the focus moves on; the focus
-    // leaving the list on the way is not a second leaving.
-    void listKey();
+    // Tab or Enter in the list: box 1 is checked and the focus moves on. Enter leaves the list
+    // first, and the focus leaving the list on the way is not a second leaving; after Tab the
+    // list is left only when the focus goes elsewhere.
+    void listKey(bool enter);
 
     int previousAtLoad_;
     bool movingOn_ = false;

@@ -4,16 +4,25 @@
 #include "session/app_context.h"
 #include "session/text_file.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
+#include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace brooklet {
 namespace {
@@ -39,6 +48,35 @@ EntryWindow::EntryWindow(AppContext& context, EntryDesign design, QWidget* paren
     // The help box opens below everything else.
     txtHelp = makeHelpBox(this);
     layout->addWidget(txtHelp);
+    addCloseKeys();
+}
+
+void EntryWindow::addCloseKeys() {
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, [this] { press(cmdCancel, &EntryWindow::noChanges); });
+    auto* accept = new QShortcut(this);
+    accept->setKeys({QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)});
+    connect(accept, &QShortcut::activated, this, [this] { press(cmdFinished, &EntryWindow::acceptChanges); });
+}
+
+void EntryWindow::press(QPushButton* button, void (EntryWindow::*routine)()) {
+    if (!button) {
+        (this->*routine)();
+    } else if (button->isEnabled() && button->isVisible()) {
+        button->click();
+    }
+}
+
+void EntryWindow::describeCloseKeys() {
+    const std::pair<QPushButton*, QString> descriptions[] = {
+        {cmdCancel, "No Changes (Esc): closes the window; nothing is written"},
+        {cmdFinished, "Accept Changes (Ctrl+Enter): writes the changes and closes the window"}};
+    for (const auto& [button, description] : descriptions) {
+        if (!button)
+            continue;
+        button->setToolTip(description);
+        button->setAccessibleDescription(description);
+    }
 }
 
 void EntryWindow::Form_Load() {
@@ -74,7 +112,73 @@ void EntryWindow::noChanges() {
     close();
 }
 
+void EntryWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (stateTaken_)
+        return;
+    // The buttons exist by now, whoever built them.
+    describeCloseKeys();
+    shownState_ = editState();
+    stateTaken_ = true;
+}
+
+QStringList EntryWindow::editState() const {
+    QStringList state;
+    for (const QWidget* control : findChildren<QWidget*>()) {
+        const QString name = control->objectName() + "=";
+        if (const auto* box = qobject_cast<const QLineEdit*>(control)) {
+            if (!box->isReadOnly())
+                state << name + box->text();
+        } else if (const auto* text = qobject_cast<const QPlainTextEdit*>(control)) {
+            if (!text->isReadOnly())
+                state << name + text->toPlainText();
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
+            if (button->isCheckable())
+                state << name + (button->isChecked() ? "1" : "0");
+        } else if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
+            state << name + combo->currentText();
+            for (int i = 0; i < combo->count(); ++i)
+                state << combo->itemText(i);
+        } else if (const auto* list = qobject_cast<const QListWidget*>(control)) {
+            state << name + QString::number(list->count());
+            for (int i = 0; i < list->count(); ++i)
+                state << list->item(i)->text();
+        } else if (const auto* grid = qobject_cast<const QTableWidget*>(control)) {
+            state << name + QString::number(grid->rowCount()) + "x" + QString::number(grid->columnCount());
+            for (int row = 0; row < grid->rowCount(); ++row)
+                for (int col = 0; col < grid->columnCount(); ++col)
+                    if (const QTableWidgetItem* cell = grid->item(row, col))
+                        state << cell->text();
+        }
+    }
+    return state;
+}
+
+BoxRequest EntryWindow::keepChangesQuestion() const {
+    return {"Keep the changes made in this window? Yes accepts them, No discards them, Cancel returns to the "
+            "window.",
+            toBytes(design_.Caption.trimmed()), BoxButtons::YesNoCancel, BoxIcon::Question};
+}
+
 void EntryWindow::closeEvent(QCloseEvent* event) {
+    // Only the close box asks: the buttons, and the closing of every session window before a
+    // new session begins, close as they are told.
+    const bool byCloseBox = event->spontaneous() && !context.windows.closingSessionWindows();
+    if (byCloseBox && stateTaken_ && editState() != shownState_) {
+        const BoxAnswer answer = context.platform.showBox(keepChangesQuestion());
+        if (answer == BoxAnswer::Cancel) {
+            event->ignore();
+            return;
+        }
+        if (answer == BoxAnswer::Yes) {
+            // Accept closes the window itself once this close has been turned down; a work
+            // file that cannot be written keeps it open.
+            event->ignore();
+            QMetaObject::invokeMethod(
+                this, [this] { press(cmdFinished, &EntryWindow::acceptChanges); }, Qt::QueuedConnection);
+            return;
+        }
+    }
     event->accept();
     // The main window's activation refreshes the X marks and the Run and View menus; it runs
     // here too, for platforms that do not activate it when this window goes.
@@ -133,8 +237,22 @@ void EntryWindow::addRow(QWidget* label, std::initializer_list<QWidget*> fields,
     if (label)
         form_->addWidget(label, row, 0, Qt::AlignLeft | Qt::AlignTop);
     auto* line = new QHBoxLayout;
-    for (QWidget* field : fields)
-        line->addWidget(field);
+    // Option buttons of a row form a group that carries the row's label, so a screen reader
+    // says it with each option.
+    const auto* caption = qobject_cast<QLabel*>(label);
+    const bool options =
+        caption && fields.size() > 0 && std::all_of(fields.begin(), fields.end(), [](QWidget* field) {
+            return qobject_cast<QRadioButton*>(field) != nullptr;
+        });
+    if (options) {
+        auto* group = new OptionGroup(caption->text(), this);
+        for (QWidget* field : fields)
+            group->layout()->addWidget(field);
+        line->addWidget(group);
+    } else {
+        for (QWidget* field : fields)
+            line->addWidget(field);
+    }
     if (unit)
         line->addWidget(unit);
     line->addStretch();

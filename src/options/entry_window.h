@@ -8,6 +8,9 @@
 //
 // A window derives from EntryWindow, builds its controls, then calls Form_Load; it tells only
 // what differs: its defaults, how it reads and writes its records, its checks and its order.
+//
+// From the keyboard, Escape is "No Changes" and Ctrl+Enter "Accept Changes". Closing the window
+// by its close box after the user changed something asks whether to keep the changes.
 #include <QWidget>
 
 #include <initializer_list>
@@ -17,6 +20,7 @@
 
 #include "editing/help_view.h"
 #include "editing/widgets.h"
+#include "session/messages.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -94,7 +98,14 @@ protected:
     // Toggles help item Index of this window (0 for the header).
     void showHelp(int index);
 
+    // What the user can change, as texts: compared with what it was when the window first
+    // showed, it tells whether closing by the close box loses anything. By default the texts,
+    // ticks, choices, lists and grid cells of every control; a window that keeps edits
+    // elsewhere too adds them.
+    virtual QStringList editState() const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
     AppContext& context;
@@ -111,12 +122,21 @@ protected:
 
 private:
     void boxKey(int index);
+    // Escape and Ctrl+Enter press the window's buttons; their tool tips and descriptions say so.
+    void addCloseKeys();
+    void describeCloseKeys();
+    // The button, as a click on it does; the routine when the window has no such button.
+    void press(QPushButton* button, void (EntryWindow::*routine)());
+    // The question of the close box, asked when the user changed something.
+    BoxRequest keepChangesQuestion() const;
     int boxIndexOf(QObject* control) const;
 
     EntryDesign design_;
     QGridLayout* form_ = nullptr;
     int focusMovedTo_ = -1;
     std::map<QObject*, int> passOn_;
+    QStringList shownState_;
+    bool stateTaken_ = false;
 };
 
 } // namespace brooklet

@@ -35,14 +35,12 @@ frmGlobal::frmGlobal(AppContext& context, QWidget* parent)
 
 QWidget* frmGlobal::addPair(ControlArray<QRadioButton>& array, const QString& arrayName, int code,
                             const QString& description) {
-    auto* pair = new QWidget(this);
-    auto* line = new QHBoxLayout(pair);
-    line->setContentsMargins(0, 0, 0, 0);
+    auto* pair = new OptionGroup(description, this);
     auto* group = new QButtonGroup(this);
     for (int index : {2 * code, 2 * code + 1}) {
         QRadioButton* option = addOption(array, arrayName, index, index % 2 == 0 ? "Yes" : "No", group);
         option->setAccessibleDescription(description);
-        line->addWidget(option);
+        pair->layout()->addWidget(option);
     }
     return pair;
 }

@@ -17,7 +17,6 @@ QWidget* WindowHost::loaded(const QString& name) const {
 }
 
 QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
-    shown_ << name;
     QWidget* window = loaded(name);
     if (!window) {
         auto factory = factories_.find(name);
@@ -29,6 +28,7 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
         window->setObjectName(name);
         instances_[name] = window;
     }
+    shown_ << name;
     window->setWindowState(window->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     window->show();
     window->move(0, 0);

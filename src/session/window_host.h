@@ -54,7 +54,8 @@ public:
             mainActivation_();
     }
 
-    // Every name passed to ShowWindowAtOrigin, in order.
+    // The name of every window ShowWindowAtOrigin opened or brought forward, in order; a name
+    // that opened nothing is not among them.
     const QStringList& shownNames() const { return shown_; }
     QStringList registeredNames() const;
 

@@ -677,6 +677,25 @@ Texts storeRow(const GridContext& context, int position) {
     return texts;
 }
 
+// Two tables of Rows rows of three fields, one behind the other; field f of row r of table t
+// holds t r f as digits. Gives the two tables.
+std::pair<int, int> twoFilledTables(GridContext& context, int rows) {
+    resetTabularTables(context, 2, 3, " ");
+    const std::pair<int, int> tables{addTable(context), addTable(context)};
+    for (int table : {tables.first, tables.second}) {
+        for (int row = 1; row <= rows; ++row) {
+            context.ValueStore.ensureRows(++context.ValueCount);
+            for (int field = 1; field <= 3; ++field)
+                context.ValueStore(field, context.ValueCount) =
+                    std::to_string(table * 100 + row * 10 + field);
+            if (context.TableFirst[size_t(table)] == 0)
+                context.TableFirst[size_t(table)] = context.ValueCount;
+            context.TableLast[size_t(table)] = context.ValueCount;
+        }
+    }
+    return tables;
+}
+
 TEST(StoreRowGrid, RowsGoToTheStoreAndTheNextTableComesOnShow) {
     RowWindow window;
     resetTabularTables(window.context, 2, 3, " ");
@@ -702,21 +721,8 @@ TEST(StoreRowGrid, RowsGoToTheStoreAndTheNextTableComesOnShow) {
 
 TEST(StoreRowGrid, AShrunkTableBlanksTheRowsItLeftAndAGrownOneMovesTheLaterTables) {
     RowWindow window;
-    resetTabularTables(window.context, 2, 3, " ");
     GridContext& context = window.context;
-    const int rating = addTable(context);
-    const int other = addTable(context);
-    for (int table : {rating, other}) {
-        for (int row = 1; row <= 3; ++row) {
-            context.ValueStore.ensureRows(++context.ValueCount);
-            for (int field = 1; field <= 3; ++field)
-                context.ValueStore(field, context.ValueCount) =
-                    std::to_string(table * 100 + row * 10 + field);
-            if (context.TableFirst[size_t(table)] == 0)
-                context.TableFirst[size_t(table)] = context.ValueCount;
-            context.TableLast[size_t(table)] = context.ValueCount;
-        }
-    }
+    const auto [rating, other] = twoFilledTables(context, 3);
     window.key("5");
     window.fill("6", "7");
     window.nextRow();
@@ -748,6 +754,46 @@ TEST(StoreRowGrid, AShrunkTableBlanksTheRowsItLeftAndAGrownOneMovesTheLaterTable
     EXPECT_EQ(context.TableLast[size_t(other)], 9);
     EXPECT_EQ(storeRow(context, 7), (Texts{"211", "212", "213"}));
     EXPECT_EQ(storeRow(context, 9), (Texts{"231", "232", "233"}));
+}
+
+TEST(StoreRowGrid, ATableEmptiedOfAllItsRowsKeepsItsPlaceAsAFlowGridTableDoes) {
+    RowWindow window;
+    GridContext& context = window.context;
+    const auto [rating, other] = twoFilledTables(context, 2);
+    context.TableCurrent = rating;
+    context.TableNext = rating;
+    context.GridRowsUsed = 0;
+    StoreRowGrid(context, window.grid);
+    EXPECT_EQ(context.TableFirst[size_t(rating)], 1);
+    EXPECT_EQ(context.TableLast[size_t(rating)], 0);
+    EXPECT_EQ(storeRow(context, 1), (Texts{" ", " ", " "}));
+    EXPECT_EQ(storeRow(context, 2), (Texts{" ", " ", " "}));
+    EXPECT_EQ(context.TableFirst[size_t(other)], 3);
+    EXPECT_EQ(context.ValueCount, 4);
+
+    // The same as a flow grid's table emptied of its values.
+    GridContext flow;
+    resetTabularTables(flow, 1, 1, " ");
+    const int series = addTable(flow);
+    flow.ValueStore.ensureRows(2);
+    flow.ValueCount = 2;
+    flow.TableFirst[size_t(series)] = 1;
+    flow.TableLast[size_t(series)] = 2;
+    flow.TableCurrent = series;
+    MemoryGrid empty(2, 5);
+    StoreFlowGrid(flow, empty, 0);
+    EXPECT_EQ(flow.TableFirst[size_t(series)], context.TableFirst[size_t(rating)]);
+    EXPECT_EQ(flow.TableLast[size_t(series)], context.TableLast[size_t(rating)]);
+
+    // Rows typed again take the same place; the table behind makes room for them.
+    window.key("5");
+    window.fill("6", "7");
+    StoreRowGrid(context, window.grid);
+    EXPECT_EQ(context.TableFirst[size_t(rating)], 1);
+    EXPECT_EQ(context.TableLast[size_t(rating)], 1);
+    EXPECT_EQ(storeRow(context, 1), (Texts{"5", "6", "7"}));
+    EXPECT_EQ(context.TableFirst[size_t(other)], 4);
+    EXPECT_EQ(storeRow(context, 4), (Texts{"211", "212", "213"}));
 }
 
 TEST(StoreRowGrid, NothingIsStoredForNoTable) {

@@ -230,14 +230,40 @@ TEST_F(IdentifierListsTest, StormRainListBuildsTheRainGageTable) {
     RainfallTable rainfall;
     FillStormRainList(session, rainfall, list);
     EXPECT_EQ(list.items, (Items{"Gage1", "Gage2", "Gage3", "Other-G"}));
-    ASSERT_EQ(rainfall.RainfallCount, 3);
-    EXPECT_EQ(rainfall.RainfallIds[1], "Gage1");
-    EXPECT_EQ(rainfall.RainfallIds[2], "GAGE1");
-    EXPECT_EQ(rainfall.RainfallIds[3], "Gage2");
-    // A later line of the same gage replaces the rainfall when it has one, and only then.
-    EXPECT_FLOAT_EQ(rainfall.Rainfall2Yr[1], 3.75f);
-    EXPECT_FLOAT_EQ(rainfall.Rainfall2Yr[2], 2.8f);
-    EXPECT_FLOAT_EQ(rainfall.Rainfall2Yr[3], 0.0f);
+    // Names compare exactly; a later line of a gage with a rainfall gives it to the gage's first
+    // row; a later line with a blank rainfall adds a row of its own; a blank gage has its row.
+    ASSERT_EQ(rainfall.RainfallCount, 5);
+    EXPECT_EQ(rainfall.RainfallIds, (Items{"", "Gage1", "GAGE1", "Gage1", "Gage2", ""}));
+    EXPECT_EQ(rainfall.Rainfall2Yr, (std::vector<float>{0.0f, 3.75f, 2.8f, 0.0f, 0.0f, 0.0f}));
+}
+
+TEST_F(IdentifierListsTest, StormRainListKeepsTheRainfallOfAStormWithABlankGage) {
+    workFile(StormSection, {"STORM ANALYSIS:", tens({"", "S1", "", "0.", "5.", "Type II", "2", "3.2"}),
+                            tens({"", "S2", "North", "0.", "5.", "Type II", "2", "2.9"}),
+                            tens({"", "S3", "", "0.", "5.", "Type II", "2", "3.4"})});
+    workFile(SubAreaSection, {"SUB-AREA:", tens({"", "A1", "R1", ""}), ""});
+    RainfallTable rainfall;
+    FillStormRainList(session, rainfall, list);
+    // A blank gage is no item of the list, but it has its row in the table, which the later
+    // storm with a blank gage updates; a sub-area that names no gage finds it there.
+    EXPECT_EQ(list.items, (Items{"North"}));
+    ASSERT_EQ(rainfall.RainfallCount, 2);
+    EXPECT_EQ(rainfall.RainfallIds[1], "");
+    EXPECT_FLOAT_EQ(rainfall.Rainfall2Yr[1], 3.4f);
+    EXPECT_EQ(rainfall.RainfallIds[2], "North");
+    EXPECT_FLOAT_EQ(rainfall.Rainfall2Yr[2], 2.9f);
+}
+
+TEST_F(IdentifierListsTest, StormRainListAddsARowForARepeatedGageWithABlankRainfall) {
+    workFile(StormSection, {"STORM ANALYSIS:", tens({"", "S1", "G1", "0.", "5.", "Type II", "2", ""}),
+                            tens({"", "S2", "G1", "0.", "5.", "Type II", "2", ""}),
+                            tens({"", "S3", "G1", "0.", "5.", "Type II", "2", "2.5"})});
+    RainfallTable rainfall;
+    FillStormRainList(session, rainfall, list);
+    EXPECT_EQ(list.items, (Items{"G1"}));
+    ASSERT_EQ(rainfall.RainfallCount, 2);
+    EXPECT_EQ(rainfall.RainfallIds, (Items{"", "G1", "G1"}));
+    EXPECT_EQ(rainfall.Rainfall2Yr, (std::vector<float>{0.0f, 2.5f, 0.0f}));
 }
 
 TEST_F(IdentifierListsTest, StormRainListResetsTheRainGageTable) {

@@ -7,8 +7,10 @@
 #include "network/local_land_use_editor.h"
 #include "session/text_file.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 namespace brooklet::test {
 namespace {
@@ -143,6 +145,35 @@ TEST_F(LocalLandUseEditorTest, ANewEntryIsTypedTabbedThroughAndAccepted) {
     EXPECT_TRUE(windowClosed());
     EXPECT_EQ(localFileBytes(), "\"Orchard\",\"45\",\"66\",\"77\",\"83\"\r\n\"\"\r\n");
     EXPECT_FALSE(session().DataChanged);
+}
+
+TEST_F(LocalLandUseEditorTest, TabInTheListChecksTheNameOnlyAndEnterLeavesTheList) {
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "Lot");
+    QTest::keyClick(list(), Qt::Key_Tab);
+    // No row is selected yet: the name is refused and the focus stays; nothing is added.
+    EXPECT_EQ(focused(), list());
+    EXPECT_EQ(listItems(), Texts{});
+    EXPECT_EQ(window->LocalLandUse.Count, 0);
+    EXPECT_EQ(background(box(1)), RefusedColour);
+    QTest::keyClick(list(), Qt::Key_Return);
+    EXPECT_EQ(listItems(), Texts{"Lot"});
+    EXPECT_EQ(window->LocalLandUse.Count, 1);
+    EXPECT_EQ(focused(), box(2));
+}
+
+TEST_F(LocalLandUseEditorTest, TabInTheListLeavesItWhenTheFocusGoes) {
+    localFile(LotAndYard);
+    open();
+    enterName("Lot");
+    list()->setFocus();
+    list()->setEditText("Pasture");
+    QTest::keyClick(list(), Qt::Key_Tab);
+    // The name of the row selected passes its check; the focus goes on, and with it the list
+    // is left: the shadow box takes the list's text.
+    EXPECT_EQ(focused(), box(2));
+    EXPECT_EQ(box(1)->text(), "Pasture");
 }
 
 TEST_F(LocalLandUseEditorTest, BIsBelowAAndTurnsRedWhileAnEqualBIsAccepted) {
@@ -365,6 +396,67 @@ TEST_F(LocalLandUseEditorTest, ALabelClickTogglesItsHelp) {
               std::string(10, ' ') +
                   "Curve Number \"B\" \r\nGroup B.\r\n          Range - 30 to 100\r\n\r\n");
     click(control<QLabel>(window, "lblInput(3)"));
+    EXPECT_FALSE(help->isVisible());
+}
+
+// ---- Keys and the close box ---------------------------------------------------------------------
+
+TEST_F(LocalLandUseEditorTest, EscapeIsNoChangesAndCtrlEnterAcceptsWhatTheListHolds) {
+    localFile(LotAndYard);
+    open();
+    enterName("Lot");
+    typeAndPress(2, "72");
+    QTest::keyClick(box(3), Qt::Key_Escape);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(localFileBytes(), LotAndYard);
+
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "Pasture");
+    QTest::keyClick(list(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_TRUE(platform.boxes.empty());
+    // Pasture has no curve number, so it is not written; the file is written all the same.
+    EXPECT_EQ(localFileBytes(), LotAndYard);
+}
+
+TEST_F(LocalLandUseEditorTest, TheCloseBoxAfterTypingAsksAndYesWritesTheFile) {
+    open();
+    enterName("Orchard");
+    typeAndPress(2, "45");
+    platform.answers.push_back(BoxAnswer::Yes);
+    QCloseEvent closing;
+    QApplication::sendEvent(window->windowHandle(), &closing);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{
+                  "Keep the changes made in this window? Yes accepts them, No discards them, Cancel returns "
+                  "to the window.",
+                  "Local Land Use", BoxButtons::YesNoCancel, BoxIcon::Question}));
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(localFileBytes(), "\"Orchard\",\"45\",\"\",\"\",\"\"\r\n\"\"\r\n");
+}
+
+TEST_F(LocalLandUseEditorTest, TheCloseBoxWithNothingTypedAsksNothing) {
+    localFile(LotAndYard);
+    open();
+    QCloseEvent closing;
+    QApplication::sendEvent(window->windowHandle(), &closing);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(LocalLandUseEditorTest, TheHeaderShowsTheWindowsEntryOfTheShippedHelp) {
+    open();
+    auto* help = control<QPlainTextEdit>(window, "txtHelp");
+    click(control<QLabel>(window, "lblHeader"));
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(helpBoxText(help).rfind(
+                  std::string(10, ' ') + "Local Land Use Definitions \r\nYour own land uses", 0),
+              0u);
+    EXPECT_EQ(session().HelpShown, 0);
+    click(control<QLabel>(window, "lblHeader"));
     EXPECT_FALSE(help->isVisible());
 }
 

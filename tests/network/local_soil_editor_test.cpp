@@ -120,10 +120,15 @@ TEST_F(LocalSoilEditorTest, TicksAreStoredWhenAnotherSoilIsPicked) {
     open();
     enterName("Clay");
     click(check(4));
-    // Tab in the list leaves it too, and keeps the focus there.
+    // Tab in the list checks the name only and keeps the focus there; Enter leaves the list.
     list()->setFocus();
     list()->setEditText("Silt loam");
     QTest::keyClick(list(), Qt::Key_Tab);
+    EXPECT_EQ(focused(), list());
+    EXPECT_EQ(ticked(), "CD");
+    EXPECT_EQ(box(1)->text(), "Clay");
+    EXPECT_EQ(window->LocalSoil.row(2), (FiveTexts{"Clay", "", "", "", "D"}));
+    QTest::keyClick(list(), Qt::Key_Return);
     EXPECT_EQ(focused(), list());
     EXPECT_EQ(ticked(), "BC");
     EXPECT_EQ(window->LocalSoil.row(2), (FiveTexts{"Clay", "", "", "C", "D"}));
@@ -238,6 +243,18 @@ TEST_F(DisplaySoilTest, ShowsTheSoilsSortedCaseNotCountingWithTheFindBoxFocused)
     EXPECT_FALSE(control<QLineEdit>(window, "txtDum(1)")->isVisible());
     EXPECT_FALSE(control<QLineEdit>(window, "txtDum(2)")->isVisible());
     EXPECT_EQ(focused(), findBox());
+}
+
+TEST_F(DisplaySoilTest, TheSortIgnoresCaseWhereCaseWouldChangeTheOrder) {
+    soilFile("\"peat\",\"D\"\r\n\"Muck\",\"D\"\r\n\"adobe\",\"D\"\r\n\"Loam\",\"B\"\r\n\"\"\r\n");
+    open();
+    ASSERT_EQ(table->rowCount(), 5);
+    // With case counting the capitals would come first: Loam, Muck, adobe, peat.
+    const Texts names{"adobe", "Loam", "Muck", "peat"};
+    for (int row = 1; row <= 4; ++row)
+        EXPECT_EQ(cell(row, 0), names[row - 1]) << row;
+    QTest::keyClicks(findBox(), "m");
+    EXPECT_EQ(markedRows(), std::vector<int>{3});
 }
 
 TEST_F(DisplaySoilTest, TheFindBoxStopsAtTheFirstSoilInSortedOrderThatBeginsWithTheText) {

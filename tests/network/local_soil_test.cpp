@@ -85,6 +85,13 @@ TEST_F(LocalSoilTest, TheDisplayListsPairsSortedCaseNotCounting) {
               (Pairs{{"Adobe", "D"}, {"Clay", "D"}, {"clay loam", "c/d"}, {"silt", "B"}}));
 }
 
+TEST_F(LocalSoilTest, TheDisplaysOrderIsNotTheOrderOfCodesWhereCaseCounts) {
+    soilFile("\"peat\",\"D\"\r\n\"Muck\",\"D\"\r\n\"adobe\",\"D\"\r\n\"Loam\",\"B\"\r\n\"\"\r\n");
+    // With case counting the capitals would come first: Loam, Muck, adobe, peat.
+    EXPECT_EQ(ReadSoilDisplay(session.LocalSoilFile),
+              (Pairs{{"adobe", "D"}, {"Loam", "B"}, {"Muck", "D"}, {"peat", "D"}}));
+}
+
 TEST_F(LocalSoilTest, TheDisplayOfAMissingOrEmptyFileIsEmpty) {
     EXPECT_TRUE(ReadSoilDisplay(session.LocalSoilFile).empty());
     soilFile("");

@@ -8,10 +8,12 @@
 #include "session/text_file.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 namespace brooklet::test {
 namespace {
@@ -80,8 +82,32 @@ protected:
         return context->windows.loaded("frmTwoBoxes") == nullptr;
     }
 
+    // The window system's close, as by the window's close box: the window decides.
+    void closeBox() {
+        QCloseEvent closing;
+        QApplication::sendEvent(window->windowHandle(), &closing);
+        // An accepting answer closes the window once the close box's event has gone.
+        QCoreApplication::processEvents();
+    }
+    // Opens the window, types Text into box 2 and closes the window by its close box; the
+    // question is answered with Answer.
+    void closeBoxAfterTyping(const QString& text, BoxAnswer answer) {
+        open();
+        typeInto(2, text);
+        platform.answers.push_back(answer);
+        closeBox();
+    }
+    void typeInto(int index, const QString& text) {
+        box(index)->setFocus();
+        QTest::keyClicks(box(index), text);
+    }
+
     frmTwoBoxes* window = nullptr;
 };
+
+const BoxRequest KeepChanges{
+    "Keep the changes made in this window? Yes accepts them, No discards them, Cancel returns to the window.",
+    "Two Boxes Editor", BoxButtons::YesNoCancel, BoxIcon::Question};
 
 TEST_F(EntryWindowTest, TheCaptionKeepsItsFixedPartAndNamesTheCurrentFile) {
     session().CurrentFile = folder.file("shed.inp");
@@ -198,6 +224,127 @@ TEST_F(EntryWindowTest, AcceptHidesRunAndViewThroughTheMainWindowsActivation) {
     open();
     click("cmdFinished");
     EXPECT_FALSE(control<QAction>(main, "mnuRun")->isVisible());
+}
+
+// ---- Keys and the close box ---------------------------------------------------------------------
+
+TEST_F(EntryWindowTest, EscapeIsNoChanges) {
+    open();
+    typeInto(2, "dropped");
+    QTest::keyClick(box(2), Qt::Key_Escape);
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(fileLength(workFile(3)), 0u);
+    EXPECT_FALSE(session().DataChanged);
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(EntryWindowTest, CtrlEnterIsAcceptChanges) {
+    open();
+    typeInto(2, "kept");
+    QTest::keyClick(box(2), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(bytesOf(workFile(3)), crlf({"TWO BOXES:", "1         kept      "}));
+    EXPECT_TRUE(session().DataChanged);
+    EXPECT_TRUE(platform.boxes.empty());
+
+    // The Enter of the number pad too.
+    open();
+    typeInto(1, "5");
+    QTest::keyClick(box(1), Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(bytesOf(workFile(3)), crlf({"TWO BOXES:", "15        kept      "}));
+}
+
+TEST_F(EntryWindowTest, TheButtonsTellTheirKeysAndKeepTheirCaptions) {
+    open();
+    auto* cancel = control<QPushButton>(window, "cmdCancel");
+    auto* finished = control<QPushButton>(window, "cmdFinished");
+    EXPECT_EQ(cancel->text(), "No Changes");
+    EXPECT_EQ(finished->text(), "Accept Changes");
+    EXPECT_EQ(cancel->toolTip(), "No Changes (Esc): closes the window; nothing is written");
+    EXPECT_EQ(cancel->accessibleDescription(), cancel->toolTip());
+    EXPECT_EQ(finished->toolTip(), "Accept Changes (Ctrl+Enter): writes the changes and closes the window");
+    EXPECT_EQ(finished->accessibleDescription(), finished->toolTip());
+}
+
+TEST_F(EntryWindowTest, TheCloseBoxWithNothingTypedAsksNothing) {
+    writeBytes(workFile(3), crlf({"TWO BOXES:", "42        word"}));
+    open();
+    // Going through the boxes changes nothing.
+    box(1)->setFocus();
+    QTest::keyClick(box(1), Qt::Key_Tab);
+    closeBox();
+    EXPECT_TRUE(closed());
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(bytesOf(workFile(3)), crlf({"TWO BOXES:", "42        word"}));
+}
+
+TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAsksAndYesAccepts) {
+    closeBoxAfterTyping("kept", BoxAnswer::Yes);
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], KeepChanges);
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(bytesOf(workFile(3)), crlf({"TWO BOXES:", "1         kept      "}));
+    EXPECT_TRUE(session().DataChanged);
+    EXPECT_EQ(listItem(3), "X   Duration Increment:");
+}
+
+TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAnsweredNoDiscards) {
+    closeBoxAfterTyping("dropped", BoxAnswer::No);
+    EXPECT_EQ(platform.boxTexts(), std::vector<std::string>{KeepChanges.text});
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(fileLength(workFile(3)), 0u);
+    EXPECT_FALSE(session().DataChanged);
+}
+
+TEST_F(EntryWindowTest, TheCloseBoxAfterTypingAnsweredCancelStays) {
+    closeBoxAfterTyping("typed", BoxAnswer::Cancel);
+    EXPECT_EQ(platform.boxes.size(), 1u);
+    EXPECT_FALSE(closed());
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(box(2)->text(), "typed");
+    EXPECT_EQ(fileLength(workFile(3)), 0u);
+    // Asked again on the next try.
+    platform.answers.push_back(BoxAnswer::No);
+    closeBox();
+    EXPECT_EQ(platform.boxes.size(), 2u);
+    EXPECT_TRUE(closed());
+}
+
+TEST_F(EntryWindowTest, TheCloseBoxAnsweredYesWithAWorkFileThatCannotBeWrittenKeepsTheWindow) {
+    open();
+    typeInto(2, "kept");
+    deleteFile(workFile(3));
+    createFolder(workFile(3)); // a folder where the work file should be
+    platform.answers.push_back(BoxAnswer::Yes);
+    closeBox();
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(platform.boxes[0], KeepChanges);
+    EXPECT_EQ(platform.boxes[1].text.rfind("The work file ", 0), 0u);
+    EXPECT_FALSE(closed());
+    EXPECT_EQ(box(2)->text(), "kept");
+}
+
+TEST_F(EntryWindowTest, TheButtonsCloseWithoutTheQuestion) {
+    open();
+    typeInto(2, "dropped");
+    click("cmdCancel");
+    EXPECT_TRUE(closed());
+    open();
+    typeInto(2, "kept");
+    click("cmdFinished");
+    EXPECT_TRUE(closed());
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(EntryWindowTest, ANewSessionClosesATypedInWindowAsNoChangesWould) {
+    open();
+    typeInto(2, "old session");
+    clickMenuItem("mnuFileItem(1)");
+    EXPECT_TRUE(closed());
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(fileLength(workFile(3)), 0u);
+    EXPECT_FALSE(session().DataChanged);
 }
 
 } // namespace

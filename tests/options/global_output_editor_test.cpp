@@ -2,6 +2,8 @@
 // sub-areas and reaches, and the section they write.
 #include "option_editor_fixture.h"
 
+#include <QAccessible>
+
 #include "options/global_output_editor.h"
 #include "options/identifier_record.h"
 
@@ -75,6 +77,13 @@ TEST_F(GlobalOutputEditorTest, ControlsCarryTheNamesAScreenReaderSpeaks) {
     EXPECT_EQ(option("Opt1", 2)->accessibleName(), "Yes");
     EXPECT_EQ(option("Opt1", 2)->accessibleDescription(), "Sub-Area Default Hydrograph Output Code");
     EXPECT_EQ(option("Opt2", 11)->accessibleDescription(), "Reach Default Flood Economics File Code");
+    // Each pair is a group named for the column and the code.
+    QAccessibleInterface* group = QAccessible::queryAccessibleInterface(option("Opt1", 2))->parent();
+    ASSERT_NE(group, nullptr);
+    EXPECT_EQ(group->role(), QAccessible::Grouping);
+    EXPECT_EQ(group->text(QAccessible::Name), "Sub-Area Default Hydrograph Output Code");
+    group = QAccessible::queryAccessibleInterface(option("Opt2", 11))->parent();
+    EXPECT_EQ(group->text(QAccessible::Name), "Reach Default Flood Economics File Code");
 }
 
 TEST_F(GlobalOutputEditorTest, TheMinimumFlowShowsTheFlowWordOfTheInputUnits) {

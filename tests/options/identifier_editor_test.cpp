@@ -7,6 +7,7 @@
 #include "options/identifier_editor.h"
 #include "session/text_file.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -185,6 +186,23 @@ TEST_F(IdentifierEditorTest, FieldsCarryTheNamesAScreenReaderSpeaks) {
     EXPECT_EQ(box(6)->accessibleName(), "Watershed Description: second line");
     EXPECT_EQ(option("opt4", 1)->accessibleName(), "No Screen Output");
     EXPECT_EQ(button("cmdFinished")->accessibleName(), "Accept Changes   (Close)");
+}
+
+TEST_F(IdentifierEditorTest, EachOptionIsSpokenWithTheLabelOfItsGroup) {
+    open();
+    const std::pair<const char*, QString> groups[] = {
+        {"opt1", "Input Units Code:"}, {"opt2", "Output Units Code:"}, {"opt4", "Screen Output Code:"}};
+    for (const auto& [array, label] : groups) {
+        for (int index : {0, 1}) {
+            QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(option(array, index));
+            ASSERT_NE(spoken, nullptr);
+            QAccessibleInterface* group = spoken->parent();
+            ASSERT_NE(group, nullptr) << array;
+            EXPECT_EQ(group->role(), QAccessible::Grouping) << array;
+            EXPECT_EQ(group->text(QAccessible::Name), label) << array;
+        }
+    }
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(option("opt1", 0))->text(QAccessible::Name), "English");
 }
 
 TEST_F(IdentifierEditorTest, LoadSetsTheHelpCodeAndTheUnitWords) {

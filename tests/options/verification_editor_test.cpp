@@ -183,8 +183,13 @@ TEST_F(VerificationEditorTest, EveryLabelShowsItsEntryOfTheShippedHelp) {
     EXPECT_FALSE(helpBox()->isVisible());
 }
 
-TEST_F(VerificationEditorTest, TheHeaderShowsNoHelp) {
+TEST_F(VerificationEditorTest, TheHeaderShowsTheWindowsEntry) {
     open();
+    EXPECT_EQ(
+        helpOf(control<QLabel>(window, "lblHeader")).rfind(std::string(10, ' ') + "Verification \r\n", 0),
+        0u);
+    EXPECT_TRUE(helpBox()->isVisible());
+    EXPECT_EQ(session().HelpShown, 0);
     click(control<QLabel>(window, "lblHeader"));
     EXPECT_FALSE(helpBox()->isVisible());
 }

@@ -4,6 +4,7 @@
 #include "session/text_file.h"
 #include "session/view_menu.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QGroupBox>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace brooklet::test {
@@ -34,6 +36,16 @@ protected:
         return items;
     }
     std::string caption() { return toBytes(main->windowTitle()); }
+    // The window system's word that frmMain is the active window again.
+    void activate() {
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(main, &activation);
+    }
+    // Makes frmMain the active window, so that its keys reach it.
+    void makeActive() {
+        main->activateWindow();
+        QApplication::setActiveWindow(main);
+    }
     // An input file in the program folder, from lines.
     std::string inputFile(const std::string& name, const std::vector<std::string>& lines) {
         writeBytes(folder.file(name), crlf(lines));
@@ -134,6 +146,86 @@ TEST_F(MainWindowTest, MenusCarryTheirCaptionsAtTheirIndexes) {
         EXPECT_TRUE(control<QMenu>(main, spacer)->actions().isEmpty()) << spacer;
 }
 
+TEST_F(MainWindowTest, FileCommandsAndRunHaveTheStandardKeysWithTheirCaptions) {
+    startMain();
+    const std::map<int, QKeySequence::StandardKey> keys = {{1, QKeySequence::New},
+                                                           {2, QKeySequence::Open},
+                                                           {14, QKeySequence::Save},
+                                                           {15, QKeySequence::SaveAs},
+                                                           {18, QKeySequence::Quit}};
+    for (const auto& [index, key] : keys) {
+        EXPECT_FALSE(fileItem(index)->shortcut().isEmpty()) << index;
+        const QList<QKeySequence> standard = QKeySequence::keyBindings(key);
+        if (!standard.isEmpty())
+            EXPECT_EQ(fileItem(index)->shortcuts(), standard) << index;
+    }
+    EXPECT_EQ(fileItem(15)->text(), "Save As");
+    EXPECT_EQ(fileItem(18)->text(), "Exit");
+    EXPECT_EQ(item("mnuRun")->shortcut(), QKeySequence(Qt::Key_F5));
+    EXPECT_EQ(item("mnuRun")->text(), "Run");
+    // The keys work from the main window: New opens the identifier editor.
+    makeActive();
+    QTest::keySequence(main, fileItem(1)->shortcut());
+    EXPECT_EQ(context->windows.shownNames(), QStringList{"frmFlume"});
+    EXPECT_EQ(session().CurrentFile, "> Untitled <");
+}
+
+TEST_F(MainWindowTest, F5RunsWhenRunIsShownAndOnlyThen) {
+    startMain();
+    QSignalSpy runs(item("mnuRun"), &QAction::triggered);
+    makeActive();
+    QTest::keyClick(main, Qt::Key_F5);
+    EXPECT_EQ(runs.count(), 0);
+    openFile(inputFile("shed.inp", Shed));
+    activate();
+    ASSERT_TRUE(menuShown("mnuRun"));
+    makeActive();
+    QTest::keyClick(main, Qt::Key_F5);
+    EXPECT_EQ(runs.count(), 1);
+}
+
+TEST_F(MainWindowTest, StartingCreatesTheMissingWorkFolderWithoutABox) {
+    ASSERT_FALSE(folderExists(folder.file("temp")));
+    startMain();
+    EXPECT_TRUE(folderExists(folder.file("temp")));
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(MainWindowTest, TheSectionListKeepsItsRowWhenAnEditorHasClosed) {
+    startMain();
+    auto* list = control<QListWidget>(main, "CurrentLst");
+    list->setFocus();
+    list->setCurrentRow(2);
+    QTest::keyClick(list, Qt::Key_Return);
+    QWidget* editor = context->windows.loaded("frmDurInc");
+    ASSERT_NE(editor, nullptr);
+    QTest::mouseClick(control<QPushButton>(editor, "cmdCancel"), Qt::LeftButton);
+    activate();
+    EXPECT_EQ(list->currentRow(), 2);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(main->pickedSection(), 4);
+    EXPECT_EQ(context->windows.shownNames(), (QStringList{"frmDurInc", "frmGlobal"}));
+}
+
+TEST_F(MainWindowTest, EveryWindowIsAWindowToTheAccessibilityLayer) {
+    startMain();
+    auto role = [](QWidget* window) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(window);
+        return spoken ? spoken->role() : QAccessible::NoRole;
+    };
+    EXPECT_EQ(role(main), QAccessible::Window);
+    const QStringList names = context->windows.registeredNames();
+    ASSERT_GE(names.size(), 10);
+    for (const QString& name : names) {
+        QWidget* window = context->windows.ShowWindowAtOrigin(name);
+        ASSERT_NE(window, nullptr) << name.toStdString();
+        const QAccessible::Role spoken = role(window);
+        EXPECT_TRUE(spoken == QAccessible::Window || spoken == QAccessible::Dialog)
+            << name.toStdString() << " is spoken of as role " << spoken;
+    }
+}
+
 TEST_F(MainWindowTest, EveryControlHasAnAccessibleName) {
     startMain();
     for (QWidget* widget : main->centralWidget()->findChildren<QWidget*>()) {
@@ -174,7 +266,7 @@ TEST_F(MainWindowTest, TheXPrefixComesOnlyWithTheNextRefresh) {
     startMain();
     writeBytes(workFile(8), crlf({"Stream Reach:", "  R1"}));
     EXPECT_EQ(listItems()[7], "     Stream Reach:");
-    main->Form_Activate();
+    activate();
     EXPECT_EQ(listItems()[7], "X   Stream Reach:");
     EXPECT_EQ(listItems()[6], "     Stream Cross Section:");
 }
@@ -183,17 +275,39 @@ TEST_F(MainWindowTest, AClickOnASectionOpensItsEditor) {
     startMain();
     context->CurrentAlternate = 3;
     auto* list = control<QListWidget>(main, "CurrentLst");
-    const QRect row = list->visualItemRect(list->item(10));
+    const QRect row = list->visualItemRect(list->item(3));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
-    EXPECT_EQ(main->pickedSection(), 11);
+    EXPECT_EQ(main->pickedSection(), 4);
     EXPECT_EQ(context->CurrentAlternate, 0);
-    EXPECT_EQ(context->windows.shownNames().last(), "frmSubArea");
+    EXPECT_EQ(context->windows.shownNames(), QStringList{"frmGlobal"});
+    ASSERT_NE(context->windows.loaded("frmGlobal"), nullptr);
+    EXPECT_TRUE(context->windows.loaded("frmGlobal")->isVisible());
 
     const QStringList editors = {"frmAlternate", "frmDimHyd", "frmDurInc",  "frmGlobal",      "frmInpHyd",
                                  "frmRainDist",  "frmXsect",  "frmReaches", "frmStorm",       "frmStruct",
                                  "frmSubArea",   "frmTimeA",  "frmFlume",   "frmVerification"};
     for (int section = 1; section <= 14; ++section)
         EXPECT_EQ(editorWindowName(section), editors[section - 1]);
+}
+
+TEST_F(MainWindowTest, AClickOnASectionWhoseWindowIsMissingShowsNothing) {
+    // A catalog that knows one editor only.
+    context = std::make_unique<AppContext>(platform);
+    context->windows.registerWindow("frmDurInc", [](AppContext&) { return new QWidget; });
+    startMain();
+    const QWidgetList start = QApplication::topLevelWidgets();
+    const QSet<QWidget*> before(start.begin(), start.end());
+    auto* list = control<QListWidget>(main, "CurrentLst");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(10)).center());
+    EXPECT_EQ(main->pickedSection(), 11);
+    EXPECT_TRUE(context->windows.shownNames().isEmpty());
+    EXPECT_EQ(context->windows.loaded("frmSubArea"), nullptr);
+    const QWidgetList after = QApplication::topLevelWidgets();
+    EXPECT_EQ(QSet<QWidget*>(after.begin(), after.end()), before);
+    EXPECT_TRUE(platform.boxes.empty());
+    // A known one opens, and is recorded.
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
+    EXPECT_EQ(context->windows.shownNames(), QStringList{"frmDurInc"});
 }
 
 TEST_F(MainWindowTest, EnterOnASectionOpensItsEditorWithoutAMouse) {
@@ -275,6 +389,25 @@ TEST_F(MainWindowTest, OpeningAMissingFileSaysSoAndLeavesAnUntitledSession) {
     ASSERT_GE(shown.size(), 2);
     EXPECT_EQ(shown[shown.size() - 2], "frmMain");
     EXPECT_EQ(shown.last(), "frmFlume");
+}
+
+TEST_F(MainWindowTest, ALoadStoppingAtItsFirstLineShowsTheBoxAndThenTheIdentifierEditor) {
+    startMain();
+    const std::string path = inputFile("prose.inp", {"This is my watershed", "", "Sub-Area:", "  A1"});
+    bool identifierOpenAtTheBox = true;
+    platform.onBox = [this, &identifierOpenAtTheBox](const BoxRequest&) {
+        identifierOpenAtTheBox = context->windows.loaded("frmFlume") != nullptr;
+    };
+    openFile(path);
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], (BoxRequest{"Section Header: THIS IS MY WATERSHED not found! ",
+                                             "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_FALSE(identifierOpenAtTheBox);
+    EXPECT_EQ(context->windows.shownNames().last(), "frmFlume");
+    ASSERT_NE(context->windows.loaded("frmFlume"), nullptr);
+    EXPECT_TRUE(context->windows.loaded("frmFlume")->isVisible());
+    EXPECT_EQ(session().CurrentFile, path);
+    EXPECT_EQ(fileLength(workFile(11)), 0u);
 }
 
 TEST_F(MainWindowTest, OpenWithUnsavedChangesAsksAndCancelKeepsEverything) {
@@ -621,6 +754,7 @@ TEST_F(MainWindowTest, ViewItemsSetTheViewIndex) {
     clickMenuItem("mnuViewItem(7)");
     EXPECT_EQ(session().ViewIndex, 7);
     EXPECT_EQ(context->windows.shownNames().last(), "frmFileDisp");
+    context->windows.registerWindow("frmTopoModel", [](AppContext&) { return new QWidget; });
     clickMenuItem("mnuViewItem(0)");
     EXPECT_EQ(context->windows.shownNames().last(), "frmTopoModel");
 }

@@ -10,6 +10,8 @@ namespace brooklet::test {
 
 BoxAnswer ScriptedPlatform::showBox(const BoxRequest& box) {
     boxes.push_back(box);
+    if (onBox)
+        onBox(box);
     if (answers.empty()) {
         if (box.buttons != BoxButtons::Ok)
             ADD_FAILURE() << "a question nobody scripted an answer for: " << box.text;

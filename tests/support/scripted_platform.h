@@ -2,6 +2,7 @@
 // The platform of window tests: answers boxes and file dialogs from queues the test fills, and
 // records every box and dialog shown so a test can assert their exact words.
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -90,6 +91,8 @@ public:
     int stopCount = 0;
 
     std::vector<BoxRequest> boxes;
+    // Called with each box as it shows, before it is answered: a test looks at the windows then.
+    std::function<void(const BoxRequest&)> onBox;
     std::vector<FileDialogSettings> openDialogs;
     std::vector<FileDialogSettings> saveDialogs;
     int endCount = 0;
