@@ -36,6 +36,12 @@ Rgb fromQColor(const QColor& colour);
 void setBackground(QWidget* control, Rgb colour);
 Rgb background(const QWidget* control);
 
+// The focus leaves for another window or for a list's own drop-down: the user has not left
+// the field.
+inline bool leavesTheField(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
+
 // A control array: controls that share a name and differ by a meaningful index.
 template <typename T> class ControlArray {
 public:

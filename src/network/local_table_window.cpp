@@ -16,16 +16,6 @@
 #include <QVBoxLayout>
 
 namespace brooklet {
-namespace {
-
-// The focus leaves for another window or for the list's own drop-down: the user has not left
-// the field.
-bool leavesTheField(const QFocusEvent* event) {
-    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
-}
-
-} // namespace
-
 LocalTableWindow::LocalTableWindow(AppContext& context, EntryDesign design, int previousAtLoad,
                                    QWidget* parent)
     : EntryWindow(context, std::move(design), parent), previousAtLoad_(previousAtLoad) {}
@@ -169,7 +159,7 @@ bool LocalTableWindow::eventFilter(QObject* watched, QEvent* event) {
                 return true;
             }
         } else if (event->type() == QEvent::FocusOut && !movingOn_ &&
-                   leavesTheField(static_cast<QFocusEvent*>(event))) {
+                   leavesTheField(static_cast<QFocusEvent*>(event)->reason())) {
             leaveList();
         }
     }

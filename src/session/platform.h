@@ -64,6 +64,13 @@ public:
     virtual bool runProgramAndWait(const std::string& program, const std::string& folder) = 0;
     // The printer the user chose, or nothing when the dialog was cancelled.
     virtual std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) = 0;
+    // The text on the clipboard, and putting text there. Kept in memory unless the platform
+    // has a clipboard of its own.
+    virtual std::string clipboardText() const { return clipboard_; }
+    virtual void setClipboardText(const std::string& text) { clipboard_ = text; }
+
+private:
+    std::string clipboard_;
 };
 
 } // namespace brooklet

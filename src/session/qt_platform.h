@@ -20,6 +20,8 @@ public:
     void endProgram() override;
     bool runProgramAndWait(const std::string& program, const std::string& folder) override;
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
+    std::string clipboardText() const override;
+    void setClipboardText(const std::string& text) override;
 };
 
 } // namespace brooklet

@@ -10,6 +10,7 @@
 #include "options/verification_editor.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/structure_rating_editor.h"
 
 namespace brooklet {
 
@@ -27,6 +28,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmLocalLanduse", [](AppContext& context) { return new frmLocalLanduse(context); });
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
+    windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
 }
 
 } // namespace brooklet
