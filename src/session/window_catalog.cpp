@@ -10,6 +10,7 @@
 #include "options/verification_editor.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/cross_section_editor.h"
 #include "tables/structure_rating_editor.h"
 
 namespace brooklet {
@@ -29,6 +30,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
     windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
+    windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
 }
 
 } // namespace brooklet

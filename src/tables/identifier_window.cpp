@@ -113,11 +113,17 @@ void IdentifierWindow::storeStep() {
     tabular.TableCurrent = tabular.TableNext;
 }
 
-void IdentifierWindow::leaveIdentifier() {
-    QComboBox* combo = cmbInp(1);
+QString IdentifierWindow::cutComboText(int index) {
+    QComboBox* combo = cmbInp(index);
     const QString text = combo->currentText().left(IdentifierLength);
     if (text != combo->currentText())
         combo->setEditText(text);
+    return text;
+}
+
+void IdentifierWindow::leaveIdentifier() {
+    QComboBox* combo = cmbInp(1);
+    const QString text = cutComboText(1);
     storeStep();
     tabular.TableNext = findTable(tabular, toBytes(text));
     if (tabular.TableNext > 0) {

@@ -92,6 +92,8 @@ protected:
 
     // The texts of a box and a combo box, as file bytes.
     std::string boxText(int index) const;
+    // The text of combo box Index, cut to the length of an identifier on leaving it.
+    QString cutComboText(int index);
     // Box Index and its combo box, if it has one, take the text.
     void setBoxAndCombo(int index, const std::string& text);
 
