@@ -3,6 +3,7 @@
 #include "editing/grid_editor.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
+#include "editing/spreadsheet_text.h"
 #include "session/app_context.h"
 
 #include <QApplication>
@@ -48,7 +49,6 @@ QTableWidget* GridEditorWindow::addGrid(const QString& accessibleName, int colum
     nameControl(MSFlexGrid1, "MSFlexGrid1", accessibleName);
     MSFlexGrid1->horizontalHeader()->hide();
     MSFlexGrid1->verticalHeader()->hide();
-    MSFlexGrid1->setSelectionMode(QAbstractItemView::NoSelection);
     MSFlexGrid1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (int col = 0; col < columns; ++col) {
         MSFlexGrid1->setColumnWidth(col, columnWidthTwips / TwipsPerPixel);
@@ -61,7 +61,10 @@ QTableWidget* GridEditorWindow::addGrid(const QString& accessibleName, int colum
         MSFlexGrid1->setRowHeight(0, rowDesign_.HeadHeightTwips / TwipsPerPixel);
     MSFlexGrid1->setFixedWidth(columns * columnWidthTwips / TwipsPerPixel + 2 * MSFlexGrid1->frameWidth() +
                                MSFlexGrid1->verticalScrollBar()->sizeHint().width());
+    MSFlexGrid1->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    MSFlexGrid1->setSelectionBehavior(QAbstractItemView::SelectRows);
     MSFlexGrid1->viewport()->installEventFilter(this);
+    MSFlexGrid1->installEventFilter(this);
     Grid = std::make_unique<QtGrid>(MSFlexGrid1);
     Boxes = std::make_unique<QtBoxes>(txtInp);
     return MSFlexGrid1;
@@ -215,9 +218,21 @@ void GridEditorWindow::focusAndSelect(int index) {
         box->selectAll();
 }
 
-void GridEditorWindow::pickRow(int Row) {
+void GridEditorWindow::pickRow(int Row, bool extendSelection) {
     if (Row < tabular.GridFirstRow)
         return;
+    MSFlexGrid1->clearSelection();
+    selectionEnd_ = -1;
+    if (extendSelection) {
+        selectionEnd_ = Row;
+        const int from = std::max(std::min(Row, tabular.GridRow), tabular.GridFirstRow);
+        MSFlexGrid1->setRangeSelected(QTableWidgetSelectionRange(from, 0, std::max(Row, tabular.GridRow),
+                                                                 MSFlexGrid1->columnCount() - 1),
+                                      true);
+        // The grid takes the focus, so that Ctrl+C copies the rows.
+        MSFlexGrid1->setFocus(Qt::MouseFocusReason);
+        return;
+    }
     // A box being edited is left, and checked, before the row changes.
     if (boxIndexOf(QApplication::focusWidget()) >= 2)
         MSFlexGrid1->setFocus(Qt::MouseFocusReason);
@@ -241,6 +256,78 @@ void GridEditorWindow::deleteRow() {
     updatePlotButton();
 }
 
+void GridEditorWindow::pasteRows() {
+    const SpreadsheetRows rows = SplitSpreadsheetText(context.platform.clipboardText());
+    const int columns = rowDesign_.LastBox - rowDesign_.KeyBox + 1;
+    // Refused values by the key of their row, as later rows may move them down.
+    std::vector<std::pair<double, int>> refused;
+    for (const auto& cells : rows) {
+        // Each cell is typed into its box and checked, the key first, as it places the row.
+        const auto typeCell = [&](int col) {
+            txtInp(rowDesign_.KeyBox + col)
+                ->setText(fromBytes(size_t(col) < cells.size() ? cells[size_t(col)] : ""));
+            return checkBox(rowDesign_.KeyBox + col);
+        };
+        if (!typeCell(0)) {
+            focusAndSelect(rowDesign_.KeyBox);
+            break;
+        }
+        const double key = leadingNumber(boxText(rowDesign_.KeyBox));
+        for (int col = 1; col < columns; ++col)
+            if (!typeCell(col))
+                refused.emplace_back(key, col);
+        nextRow();
+        focusAndSelect(rowDesign_.KeyBox);
+    }
+    for (const auto& [key, col] : refused)
+        for (int row = tabular.GridFirstRow; row <= tabular.GridRowsUsed; ++row)
+            if (leadingNumber(Grid->cellText(row, tabular.GridKeyCol)) == key)
+                Grid->setCellColour(row, col, RefusedColour);
+}
+
+void GridEditorWindow::copyRows() {
+    const int end = selectionEnd_ > 0 ? selectionEnd_ : tabular.GridRow;
+    const int first = std::max(std::min(end, tabular.GridRow), tabular.GridFirstRow);
+    const int last = std::min(std::max(end, tabular.GridRow), tabular.GridRowsUsed);
+    SpreadsheetRows rows;
+    for (int row = first; row <= last; ++row) {
+        rows.emplace_back();
+        for (int col = tabular.GridFirstCol; col < Grid->Cols(); ++col)
+            rows.back().push_back(trim(Grid->cellText(row, col)));
+    }
+    if (!rows.empty())
+        context.platform.setClipboardText(JoinSpreadsheetRows(rows));
+}
+
+bool GridEditorWindow::clipboardKey(QObject* watched, QKeyEvent* key) {
+    const bool paste = key->matches(QKeySequence::Paste);
+    const bool copy = key->matches(QKeySequence::Copy);
+    if (!paste && !copy)
+        return false;
+    if (watched != MSFlexGrid1) {
+        // In a box, the keys keep their own meaning unless they are meant for rows: a paste of
+        // more than one cell, a copy with no text chosen in the box.
+        auto* box = qobject_cast<QLineEdit*>(watched);
+        if (!box)
+            return false;
+        if (paste) {
+            const SpreadsheetRows rows = SplitSpreadsheetText(context.platform.clipboardText());
+            if (rows.empty() || (rows.size() == 1 && rows[0].size() == 1)) {
+                box->insert(fromBytes(rows.empty() ? std::string() : rows[0][0]));
+                return true;
+            }
+        } else if (box->hasSelectedText()) {
+            context.platform.setClipboardText(toBytes(box->selectedText()));
+            return true;
+        }
+    }
+    if (paste)
+        pasteRows();
+    else
+        copyRows();
+    return true;
+}
+
 int GridEditorWindow::boxIndexOf(QObject* control) const {
     for (const auto& [index, box] : txtInp.all())
         if (box == control)
@@ -254,12 +341,15 @@ bool GridEditorWindow::eventFilter(QObject* watched, QEvent* event) {
         const int row = MSFlexGrid1->rowAt(mouse->position().toPoint().y());
         Grid->setMouseRow(row);
         if (mouse->button() == Qt::LeftButton)
-            pickRow(row);
+            pickRow(row, mouse->modifiers() & Qt::ShiftModifier);
         else if (mouse->button() == Qt::RightButton)
             deleteRow();
         return true;
     }
     const int index = boxIndexOf(watched);
+    if (event->type() == QEvent::KeyPress && (watched == MSFlexGrid1 || isRowBox(index)) &&
+        clipboardKey(watched, static_cast<QKeyEvent*>(event)))
+        return true;
     if (index < 2 || cmbInp.contains(index))
         return IdentifierWindow::eventFilter(watched, event);
     switch (event->type()) {

@@ -5,7 +5,10 @@
 // equal key selects the row that has it); the boxes behind it go into the row's cells when they
 // are checked, and must rise strictly with the key where the window says so. Tab or Enter past
 // the last box moves on to the next row. A click picks a row, a right click deletes the current
-// row after a question.
+// row after a question. Ctrl+V in the grid or its boxes types the rows of spreadsheet text into
+// the boxes, row by row; Ctrl+C in the grid copies the rows chosen with a Shift click (from the
+// current row to the row clicked) as spreadsheet text. In a box, a single value is pasted and
+// the text chosen is copied, through the platform's clipboard.
 //
 // A window derives from GridEditorWindow with its RowGridDesign, builds its controls with
 // addGrid among the entry window's helpers, and tells its field checks (validateBox), which
@@ -39,10 +42,17 @@ public:
     QTableWidget* grid() const { return MSFlexGrid1; }
 
     // A left click on grid row Row: it becomes the current row, or the first free row if it
-    // lies beyond; the key box takes the focus.
-    void pickRow(int Row);
+    // lies beyond; the key box takes the focus. With Shift, the rows from the current row to Row
+    // are selected for copying instead, and the current row stays.
+    void pickRow(int Row, bool extendSelection = false);
     // A right click: the current row is deleted after the question.
     void deleteRow();
+    // Ctrl+V: each row of the clipboard text goes into the boxes and is checked as if typed, cell
+    // by cell, and the next row comes; a refused value is also marked red in the grid. A refused
+    // key ends the paste, its box red and holding the focus.
+    void pasteRows();
+    // Ctrl+C: the selected rows in use as spreadsheet text.
+    void copyRows();
 
 protected:
     GridEditorWindow(AppContext& context, EntryDesign design, TabularDesign tabularDesign,
@@ -94,11 +104,15 @@ private:
     void focusAndSelect(int index);
     // On to the next row, as Tab or Enter past the last box goes.
     void nextRow();
+    // Ctrl+V and Ctrl+C in the grid, or in a row box where they are meant for the rows.
+    bool clipboardKey(QObject* watched, QKeyEvent* key);
 
     RowGridDesign rowDesign_;
     std::unique_ptr<QtGrid> Grid;
     std::unique_ptr<QtBoxes> Boxes;
     bool movingOn_ = false;
+    // The row picked with Shift for copying; -1 for none.
+    int selectionEnd_ = -1;
 };
 
 } // namespace brooklet

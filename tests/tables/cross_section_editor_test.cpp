@@ -302,5 +302,20 @@ TEST_F(CrossSectionEditorTest, AcceptUnchangedWritesTheSectionBack) {
     EXPECT_EQ(workFileBytes(), crlf(TwoSections));
 }
 
+TEST_F(CrossSectionEditorTest, PastedRowsAreCheckedByTheCrossSectionRules) {
+    open();
+    enterName("A");
+    // Blank-separated text; the second row has no top width and a friction slope of 0.
+    platform.setClipboardText("90 0 0 0 .001\r\n95\t10\t5\t\t0\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(1), (Texts{"90", "0", "0", "0", ".001"}));
+    // A refused friction slope does not reach the grid, as when typed: its cell turns red.
+    EXPECT_EQ(gridRow(2), (Texts{"95", "10", "5", "", ""}));
+    EXPECT_EQ(cellColour(2, 3), RefusedColour);
+    EXPECT_EQ(cellColour(2, 4), RefusedColour);
+    EXPECT_EQ(cellColour(2, 1), UntouchedColour);
+}
+
 } // namespace
 } // namespace brooklet::test

@@ -538,5 +538,126 @@ TEST_F(StructureRatingEditorTest, TheButtonNeedsTwoRows) {
     EXPECT_TRUE(plotButton()->isEnabled());
 }
 
+// ---- Spreadsheet paste and copy ---------------------------------------------------------------
+
+TEST_F(StructureRatingEditorTest, RowsCopiedFromASpreadsheetArePastedInOrderAsIfTyped) {
+    open();
+    enterName("S1");
+    platform.setClipboardText("847\t39.1\t18.1\r\n846\t0\t0\r\n846.5\t13.8\t8.9\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(1), (Texts{"846", "0", "0"}));
+    EXPECT_EQ(gridRow(2), (Texts{"846.5", "13.8", "8.9"}));
+    EXPECT_EQ(gridRow(3), (Texts{"847", "39.1", "18.1"}));
+    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
+    // As after typing 846.5 and Tab: the row behind it comes into the boxes.
+    EXPECT_EQ(context->tabular.GridRow, 3);
+    EXPECT_EQ(box(3)->text(), "847");
+    EXPECT_EQ(focused(), box(3));
+    EXPECT_TRUE(plotButton()->isEnabled());
+    click(button("cmdFinished"));
+    EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "S1", ""}), point("846.", "0.", "0."),
+                                     point("846.5", "13.8", "8.9"), point("847.", "39.1", "18.1"), ""}));
+}
+
+TEST_F(StructureRatingEditorTest, ABlankCellOfThePasteLeavesItsCellBlank) {
+    open();
+    enterName("S1");
+    platform.setClipboardText("100\t\t5\r\n101\t7\t6");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(1), (Texts{"100", "", "5"}));
+    EXPECT_EQ(gridRow(2), (Texts{"101", "7", "6"}));
+    for (int col = 0; col < 3; ++col)
+        EXPECT_EQ(cellColour(1, col), UntouchedColour);
+}
+
+TEST_F(StructureRatingEditorTest, APastedValueThatDoesNotRiseTurnsItsCellRedAndStays) {
+    open();
+    enterName("S1");
+    platform.setClipboardText("100\t50\t1\r\n101\t40\t2\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(2), (Texts{"101", "40", "2"}));
+    EXPECT_EQ(cellColour(2, 1), RefusedColour);
+    EXPECT_EQ(cellColour(2, 2), UntouchedColour);
+    EXPECT_EQ(cellColour(1, 1), UntouchedColour);
+    // Nothing else in the section changes.
+    EXPECT_EQ(context->tabular.TableCount, 1);
+    EXPECT_EQ(box(2)->text(), "");
+}
+
+TEST_F(StructureRatingEditorTest, ARefusedKeyEndsThePasteAndKeepsTheFocus) {
+    open();
+    enterName("S1");
+    platform.setClipboardText("100\t1\t1\r\nabc\t2\t2\r\n102\t3\t3\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(1), (Texts{"100", "1", "1"}));
+    EXPECT_EQ(context->tabular.GridRowsUsed, 1);
+    EXPECT_EQ(box(3)->text(), "abc");
+    EXPECT_EQ(background(box(3)), RefusedColour);
+    EXPECT_EQ(focused(), box(3));
+}
+
+TEST_F(StructureRatingEditorTest, APastedRowWithTheElevationOfARowReplacesItsValues) {
+    writeWorkFile(TwoStructures);
+    open();
+    enterName("DAM");
+    clickRow(1);
+    platform.setClipboardText("102  60  12\n103  100  20\n");
+    QTest::keyClick(box(3), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(2), (Texts{"102", "60", "12"}));
+    EXPECT_EQ(gridRow(3), (Texts{"103", "100", "20"}));
+    EXPECT_EQ(gridRow(4), (Texts{"104.", "200.", "30."}));
+    EXPECT_EQ(context->tabular.GridRowsUsed, 4);
+}
+
+TEST_F(StructureRatingEditorTest, ASingleValueIsPastedIntoTheBoxAsText) {
+    open();
+    enterName("S1");
+    QTest::keyClick(box(2), Qt::Key_Tab);
+    platform.setClipboardText("846.5");
+    QTest::keyClick(box(3), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(context->tabular.GridRowsUsed, 0);
+    EXPECT_EQ(box(3)->text().toStdString(), "846.5");
+}
+
+TEST_F(StructureRatingEditorTest, PastingWithNoStructureChosenPlacesNothing) {
+    open();
+    platform.setClipboardText("100\t1\t1\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(context->tabular.GridRowsUsed, 0);
+    EXPECT_EQ(background(box(3)), RefusedColour);
+}
+
+TEST_F(StructureRatingEditorTest, CopyPutsTheCurrentRowOrTheRowsPickedWithShiftOnTheClipboard) {
+    writeWorkFile(TwoStructures);
+    open();
+    enterName("DAM");
+    clickRow(2);
+    // Ctrl+C in the box copies the box's own text, which is chosen as the box takes the focus;
+    // a Shift click on the row itself chooses the row.
+    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                      grid()->visualRect(grid()->model()->index(2, 0)).center());
+    EXPECT_EQ(focused(), grid());
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(platform.clipboardText(), "102.\t50.\t10.\r\n");
+    clickRow(1);
+    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
+                      grid()->visualRect(grid()->model()->index(3, 0)).center());
+    // The current row stays.
+    EXPECT_EQ(context->tabular.GridRow, 1);
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(platform.clipboardText(), "100.\t0.\t0.\r\n102.\t50.\t10.\r\n104.\t200.\t30.\r\n");
+    // Copied rows pasted into another structure come out the same.
+    enterName("NEW");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(3), (Texts{"104.", "200.", "30."}));
+}
+
 } // namespace
 } // namespace brooklet::test
