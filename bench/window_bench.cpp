@@ -16,6 +16,9 @@
 #include "tables/storm_editor.h"
 
 #include <QClipboard>
+#include "tables/grid_editor_window.h"
+
+#include <QComboBox>
 
 namespace brooklet::bench {
 namespace {
@@ -132,6 +135,77 @@ void StormWindowOpensTakesARowAndAccepts(benchmark::State& state) {
     }
 }
 BENCHMARK(StormWindowOpensTakesARowAndAccepts)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+// A rating section of 1,000 entries of 20 rows each in its work file: structures (section 10)
+// or cross sections (section 7), in their record layouts.
+void writeRatingSection(const Session& session, int section, const char* prefix, int rowFields) {
+    std::string file = section == StructureSection ? "STRUCTURE RATING:" : "STREAM CROSS SECTION:";
+    file += "\r\n";
+    auto ten = [](const std::string& text) { return text + std::string(10 - text.size(), ' '); };
+    for (int entry = 1; entry <= 1000; ++entry) {
+        file += ten("") + ten(prefix + std::to_string(entry)) + ten("100.") + "\r\n";
+        for (int row = 0; row < 20; ++row) {
+            file += ten("") + ten("") + ten(std::to_string(100 + row) + ".");
+            for (int field = 1; field < rowFields; ++field)
+                file += ten(std::to_string(row * 10 + field) + ".");
+            file += "\r\n";
+        }
+    }
+    file += "\r\n";
+    writeFileAtomically(session.WorkFilePath[section], file);
+}
+
+GridEditorWindow* openRatingWindow(LargeSession& session, const QString& name) {
+    return qobject_cast<GridEditorWindow*>(session.context.windows.ShowWindowAtOrigin(name));
+}
+
+void pickEntry(GridEditorWindow* window, const QString& entry) {
+    window->findChild<QComboBox*>("cmbInp(1)")->setEditText(entry);
+    window->leaveIdentifier();
+}
+
+// Opening the window on 1,000 entries of 20 rows, picking one, and accepting, each timed alone.
+void RatingWindow(benchmark::State& state, const QString& name, int section, const char* prefix, int rowFields,
+                  int step) {
+    LargeSession session(1);
+    writeRatingSection(session.context.session, section, prefix, rowFields);
+    const QString entry = QString(prefix) + "500";
+    for (auto _ : state) {
+        if (step != 0)
+            state.PauseTiming();
+        GridEditorWindow* window = openRatingWindow(session, name);
+        if (step == 0)
+            state.PauseTiming();
+        if (step == 1)
+            state.ResumeTiming();
+        pickEntry(window, entry);
+        if (step == 1)
+            state.PauseTiming();
+        if (step == 2)
+            state.ResumeTiming();
+        window->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (step != 2)
+            state.ResumeTiming();
+    }
+}
+BENCHMARK_CAPTURE(RatingWindow, StructureOpens, "frmStruct", StructureSection, "S", 3, 0)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
+BENCHMARK_CAPTURE(RatingWindow, StructurePicks, "frmStruct", StructureSection, "S", 3, 1)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
+BENCHMARK_CAPTURE(RatingWindow, StructureAccepts, "frmStruct", StructureSection, "S", 3, 2)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
+BENCHMARK_CAPTURE(RatingWindow, CrossSectionOpens, "frmXsect", CrossSectionSection, "X", 5, 0)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
+BENCHMARK_CAPTURE(RatingWindow, CrossSectionPicks, "frmXsect", CrossSectionSection, "X", 5, 1)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
+BENCHMARK_CAPTURE(RatingWindow, CrossSectionAccepts, "frmXsect", CrossSectionSection, "X", 5, 2)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(40);
 
 } // namespace
 } // namespace brooklet::bench

@@ -6,3 +6,4 @@ brooklet_fuzz_target(fuzz_delimited_values ${CMAKE_CURRENT_LIST_DIR}/fuzz_delimi
 brooklet_fuzz_target(fuzz_network_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_network_sections.cpp)
 brooklet_fuzz_target(fuzz_value_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_value_sections.cpp)
 brooklet_fuzz_target(fuzz_network ${CMAKE_CURRENT_LIST_DIR}/fuzz_network.cpp)
+brooklet_fuzz_target(fuzz_rating_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_rating_sections.cpp)

@@ -13,7 +13,9 @@
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/cross_section_editor.h"
 #include "tables/storm_editor.h"
+#include "tables/structure_rating_editor.h"
 
 namespace brooklet {
 
@@ -41,6 +43,8 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
     windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
     windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
+    windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
+    windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
 }
 

@@ -123,6 +123,39 @@ int addTable(GridContext& context) {
     return table;
 }
 
+int findTable(const GridContext& context, const std::string& text) {
+    const std::string wanted = toUpper(trim(text));
+    int found = 0;
+    for (int table = 1; table <= context.TableCount && table <= context.IdentifierTable.rows(); ++table)
+        if (toUpper(trim(context.IdentifierTable(1, table))) == wanted)
+            found = table;
+    return found;
+}
+
+void deleteTable(GridContext& context, int t) {
+    if (t < 1 || t >= static_cast<int>(context.TableFirst.size()))
+        return;
+    const int first = context.TableFirst[size_t(t)];
+    const int n = context.TableLast[size_t(t)] - first;
+    if (first > 0 && n > 0) {
+        for (int position = first + 1 + n; position <= context.ValueCount; ++position)
+            context.ValueStore.copyRow(position, position - n);
+        context.ValueCount -= n;
+        const int tables = static_cast<int>(context.TableFirst.size()) - 1;
+        for (int other = 1; other <= tables; ++other) {
+            if (context.TableFirst[size_t(other)] > first) {
+                context.TableFirst[size_t(other)] -= n;
+                context.TableLast[size_t(other)] -= n;
+            }
+        }
+    }
+    context.TableFirst[size_t(t)] = 0;
+    context.TableLast[size_t(t)] = 0;
+    if (t <= context.IdentifierTable.rows())
+        for (int field = 2; field <= context.IdentifierTable.fields(); ++field)
+            context.IdentifierTable(field, t).clear();
+}
+
 // Flow grid
 
 void HandleGridKey(GridContext& context, int& Key, GridControl& Grid, int& Row, int& Col, int& Index,
@@ -436,6 +469,28 @@ void StoreRowGrid(GridContext& context, GridControl& Grid) {
     }
     context.TableCurrent = context.TableNext;
     context.GridBusy = false;
+}
+
+void loadTableIntoRowGrid(GridContext& context, GridControl& Grid, int t) {
+    ClearRowGrid(context, Grid);
+    // GridRowsUsed is the last row in use; the rows above GridFirstRow hold the heads.
+    int lastUsed = context.GridFirstRow - 1;
+    if (t >= 0 && t < static_cast<int>(context.TableFirst.size()) && context.TableFirst[size_t(t)] > 0) {
+        const int last = std::min(context.TableLast[size_t(t)], context.ValueStore.rows());
+        const int fields = std::min(context.ValueStore.fields(), Grid.Cols() - context.GridFirstCol);
+        for (int position = context.TableFirst[size_t(t)]; position <= last; ++position) {
+            if (isBlank(context.ValueStore(1, position)))
+                continue;
+            lastUsed += 1;
+            if (lastUsed + 1 >= Grid.Rows())
+                Grid.setRows(lastUsed + 2);
+            for (int field = 1; field <= fields; ++field)
+                Grid.setCellText(lastUsed, context.GridFirstCol + field - 1,
+                                 context.ValueStore(field, position));
+        }
+    }
+    context.GridRowsUsed = std::max(lastUsed, 0);
+    context.GridRow = lastUsed + 1;
 }
 
 } // namespace brooklet

@@ -77,6 +77,14 @@ void resetTabularTables(GridContext& context, int identifierFields, int valueFie
                         const std::string& valueFill = std::string());
 // A new table behind the others, with no values. Gives its number.
 int addTable(GridContext& context);
+// The table whose identifier (field 1), trimmed and in upper case, equals the text so treated;
+// among equal names the last one wins; 0 when none does. A blank text finds a deleted table.
+int findTable(const GridContext& context, const std::string& text);
+// Takes table t out of the store: the values behind its block move down over all of the block
+// but its first position, which stays behind unused, and the tables behind it follow; the table
+// keeps its place in the identifier table with no values and its fields from the second on
+// emptied. Its identifier empties at the next store of the window's boxes.
+void deleteTable(GridContext& context, int t);
 
 // Flow grid. Row, Col, Index (the values in the grid), Typing and Valid are the window's own
 // variables. Keys are character codes; a key that moves on is set to 0.
@@ -103,5 +111,9 @@ void LoadRowIntoBoxes(GridContext& context, GridBoxes& Boxes, GridControl& Grid)
 // Puts the rows in use back into table TableCurrent, then shows TableNext. A table that shrinks,
 // to no rows too, keeps its place in the store.
 void StoreRowGrid(GridContext& context, GridControl& Grid);
+// Shows table t in a cleared row grid: each of its rows whose first field is not blank goes
+// into the next grid row, the grid growing so that one free row always lies below the rows in
+// use; the current row becomes that free row.
+void loadTableIntoRowGrid(GridContext& context, GridControl& Grid, int t);
 
 } // namespace brooklet

@@ -38,6 +38,12 @@ Rgb fromQColor(const QColor& colour);
 void setBackground(QWidget* control, Rgb colour);
 Rgb background(const QWidget* control);
 
+// The focus leaves for another window or for a list's own drop-down: the user has not left
+// the field.
+inline bool leavesTheField(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
+
 // Screen pixels of a width given in twips, at 96 dots an inch.
 constexpr int twips(int width) {
     return width / 15;

@@ -170,7 +170,7 @@ bool LocalTableWindow::eventFilter(QObject* watched, QEvent* event) {
                 return true;
             }
         } else if (event->type() == QEvent::FocusOut && !movingOn_ &&
-                   leavesTheField(static_cast<QFocusEvent*>(event))) {
+                   leavesTheField(static_cast<QFocusEvent*>(event)->reason())) {
             leaveList();
         }
     }

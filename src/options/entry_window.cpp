@@ -104,7 +104,8 @@ void EntryWindow::acceptChanges() {
         Accepting = false;
         return;
     }
-    session.DataChanged = true;
+    if (acceptSetsDataChanged())
+        session.DataChanged = true;
     close();
 }
 

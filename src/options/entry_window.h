@@ -71,6 +71,8 @@ protected:
     virtual void afterLoad() {}
     // The whole section from the current controls, at Accept; no lines leave the file empty.
     virtual std::vector<std::string> sectionRecords() = 0;
+    // Whether the Accept that has just written the work file sets DataChanged.
+    virtual bool acceptSetsDataChanged() const { return true; }
     // Checks box Index on Tab or Enter and paints it; false when the box is refused.
     virtual bool checkBox(int index) = 0;
     // The box that Tab or Enter leads to from box Index (from Index - 1 after a refusal).

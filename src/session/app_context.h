@@ -23,6 +23,9 @@ struct AppContext {
     bool ProgramRunning = false;
     GridContext tabular;       // the grid variables and tabular tables of the grid window open
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
+    // The kind of plot the plot window draws next: 1 to 5 for the tables of the tabular
+    // windows, 6 to 8 for model results.
+    int PlotKind = 0;
 };
 
 } // namespace brooklet

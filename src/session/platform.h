@@ -141,6 +141,14 @@ public:
     virtual void clearClipboard() {}
     virtual void setClipboardBitmap(const Bitmap& /*picture*/) {}
     virtual std::optional<Bitmap> clipboardBitmap() { return std::nullopt; }
+
+    // The text on the clipboard, and putting text there. Kept in memory unless the platform
+    // has a clipboard of its own.
+    virtual std::string clipboardText() const { return clipboard_; }
+    virtual void setClipboardText(const std::string& text) { clipboard_ = text; }
+
+private:
+    std::string clipboard_;
 };
 
 } // namespace brooklet

@@ -396,4 +396,12 @@ void QtPlatform::endProgram() {
     QCoreApplication::exit(0);
 }
 
+std::string QtPlatform::clipboardText() const {
+    return toBytes(QApplication::clipboard()->text());
+}
+
+void QtPlatform::setClipboardText(const std::string& text) {
+    QApplication::clipboard()->setText(fromBytes(text));
+}
+
 } // namespace brooklet

@@ -55,6 +55,8 @@ public:
     void clearClipboard() override;
     void setClipboardBitmap(const Bitmap& picture) override;
     std::optional<Bitmap> clipboardBitmap() override;
+    std::string clipboardText() const override;
+    void setClipboardText(const std::string& text) override;
 
 private:
     QPrinter& present();

@@ -1,6 +1,25 @@
 #include "session/window_host.h"
 
+#include <QEvent>
+#include <QEventLoop>
+
 namespace brooklet {
+namespace {
+
+// Hands every event of the watched object to a function, and lets it through.
+class EventWatcher : public QObject {
+public:
+    explicit EventWatcher(std::function<void(QEvent*)> watch) : watch_(std::move(watch)) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        watch_(event);
+        return false;
+    }
+
+private:
+    std::function<void(QEvent*)> watch_;
+};
+
+} // namespace
 
 void WindowHost::registerWindow(const QString& name, Factory factory, Kind kind) {
     factories_[name] = std::move(factory);
@@ -16,7 +35,7 @@ QWidget* WindowHost::loaded(const QString& name) const {
     return it == instances_.end() ? nullptr : it->second.data();
 }
 
-QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
+QWidget* WindowHost::load(const QString& name) {
     QWidget* window = loaded(name);
     if (!window) {
         auto factory = factories_.find(name);
@@ -28,6 +47,13 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
         window->setObjectName(name);
         instances_[name] = window;
     }
+    return window;
+}
+
+QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
+    QWidget* window = load(name);
+    if (!window)
+        return nullptr;
     shown_ << name;
     window->setWindowState(window->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
     window->show();
@@ -35,6 +61,30 @@ QWidget* WindowHost::ShowWindowAtOrigin(const QString& name) {
     window->raise();
     window->activateWindow();
     return window;
+}
+
+void WindowHost::ShowModal(const QString& name) {
+    QPointer<QWidget> window = load(name);
+    if (!window)
+        return;
+    shown_ << name;
+    window->setWindowModality(Qt::ApplicationModal);
+    window->show();
+    window->move(0, 0);
+    window->raise();
+    window->activateWindow();
+    // The window's own events run until it is hidden or gone.
+    QEventLoop loop;
+    EventWatcher watcher([&loop](QEvent* event) {
+        if (event->type() == QEvent::Hide)
+            loop.quit();
+    });
+    window->installEventFilter(&watcher);
+    QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
+    if (window->isVisible())
+        loop.exec();
+    if (window)
+        window->removeEventFilter(&watcher);
 }
 
 void WindowHost::unload(const QString& name) {

@@ -34,6 +34,9 @@ public:
     // Loads the window if it is not loaded, sets it to its normal state, shows it and moves it
     // to the top left of the screen. A window not yet part of the program opens nothing.
     QWidget* ShowWindowAtOrigin(const QString& name);
+    // Loads the window and shows it modally at the top left; returns when it has closed. A
+    // window not yet part of the program opens nothing.
+    void ShowModal(const QString& name);
 
     // The loaded instance, or null.
     QWidget* loaded(const QString& name) const;
@@ -60,6 +63,9 @@ public:
     QStringList registeredNames() const;
 
 private:
+    // The loaded instance, loaded now if need be; null for a name not registered.
+    QWidget* load(const QString& name);
+
     AppContext& context_;
     std::map<QString, Factory> factories_;
     std::map<QString, Kind> kinds_;

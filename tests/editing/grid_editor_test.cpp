@@ -808,5 +808,107 @@ TEST(StoreRowGrid, NothingIsStoredForNoTable) {
     EXPECT_EQ(window.context.TableCurrent, 4);
 }
 
+// Three tables of rows in the store: A with rows 1-3, B with none, C with rows 4-5.
+GridContext threeTables() {
+    GridContext context;
+    resetTabularTables(context, 2, 3, " ");
+    const char* names[] = {"A", "B", "C"};
+    for (const char* name : names)
+        context.IdentifierTable(1, addTable(context)) = name;
+    context.IdentifierTable(2, 1) = "100.";
+    context.ValueCount = 5;
+    context.ValueStore.ensureRows(5);
+    for (int row = 1; row <= 5; ++row)
+        context.ValueStore(1, row) = std::to_string(row);
+    context.TableFirst[1] = 1;
+    context.TableLast[1] = 3;
+    context.TableFirst[3] = 4;
+    context.TableLast[3] = 5;
+    return context;
+}
+
+TEST(Tables, FindingComparesTrimmedUpperCaseAndTheLastMatchWins) {
+    GridContext context = threeTables();
+    EXPECT_EQ(findTable(context, "abc"), 0);
+    EXPECT_EQ(findTable(context, "b "), 2);
+    context.IdentifierTable(1, 3) = "ABC ";
+    context.IdentifierTable(1, 1) = "abc";
+    EXPECT_EQ(findTable(context, " Abc"), 3);
+    EXPECT_EQ(findTable(context, ""), 0);
+    context.IdentifierTable(1, 2) = " ";
+    EXPECT_EQ(findTable(context, ""), 2);
+}
+
+TEST(Tables, DeletingATableMovesTheLaterRowsDownAndLeavesItsFirstRowBehind) {
+    GridContext context = threeTables();
+    deleteTable(context, 1);
+    // n = 3 - 1 = 2: rows 4 and 5 move down to 2 and 3; row 1 stays, referred to by nobody.
+    EXPECT_EQ(context.ValueCount, 3);
+    EXPECT_EQ(context.TableFirst[1], 0);
+    EXPECT_EQ(context.TableLast[1], 0);
+    EXPECT_EQ(context.IdentifierTable(2, 1), "");
+    EXPECT_EQ(context.IdentifierTable(1, 1), "A");
+    EXPECT_EQ(context.TableFirst[3], 2);
+    EXPECT_EQ(context.TableLast[3], 3);
+    EXPECT_EQ(context.ValueStore(1, 1), "1");
+    EXPECT_EQ(context.ValueStore(1, 2), "4");
+    EXPECT_EQ(context.ValueStore(1, 3), "5");
+    EXPECT_EQ(context.TableCount, 3);
+}
+
+TEST(Tables, DeletingATableOfNoRowsOrOneRowMovesNothing) {
+    GridContext context = threeTables();
+    deleteTable(context, 2);
+    EXPECT_EQ(context.ValueCount, 5);
+    EXPECT_EQ(context.TableFirst[3], 4);
+    context.TableLast[3] = 4;
+    deleteTable(context, 3);
+    EXPECT_EQ(context.ValueCount, 5);
+    EXPECT_EQ(context.TableFirst[3], 0);
+    deleteTable(context, 9);
+    deleteTable(context, 0);
+    EXPECT_EQ(context.TableFirst[1], 1);
+}
+
+TEST(Tables, ATableComesIntoTheRowGridWithAFreeRowBelowItsRows) {
+    RowWindow window;
+    window.context = threeTables();
+    window.context.GridFirstRow = 1;
+    window.context.GridBoxBase = 3;
+    window.context.ValueStore(2, 2) = "q2";
+    window.context.ValueStore(1, 3) = " ";
+    window.key("7");
+    loadTableIntoRowGrid(window.context, window.grid, 1);
+    EXPECT_EQ(window.grid.rowTexts(1), (Texts{"1", " ", " "}));
+    EXPECT_EQ(window.grid.rowTexts(2), (Texts{"2", "q2", ""}));
+    // The row with a blank first field stays out.
+    EXPECT_EQ(window.grid.rowTexts(3), (Texts{"", "", ""}));
+    EXPECT_EQ(window.context.GridRowsUsed, 2);
+    EXPECT_EQ(window.context.GridRow, 3);
+    EXPECT_EQ(window.context.MarkedRow, NoMarkedRow);
+    loadTableIntoRowGrid(window.context, window.grid, 2);
+    EXPECT_EQ(window.context.GridRowsUsed, 0);
+    EXPECT_EQ(window.context.GridRow, 1);
+    EXPECT_EQ(window.grid.rowTexts(1), (Texts{"", "", ""}));
+}
+
+TEST(Tables, AFullGridGrowsSoThatOneFreeRowStaysBelow) {
+    RowWindow window;
+    GridContext& context = window.context;
+    resetTabularTables(context, 2, 3, " ");
+    addTable(context);
+    context.ValueCount = 12;
+    context.ValueStore.ensureRows(12);
+    for (int row = 1; row <= 12; ++row)
+        context.ValueStore(1, row) = std::to_string(100 + row);
+    context.TableFirst[1] = 1;
+    context.TableLast[1] = 12;
+    loadTableIntoRowGrid(context, window.grid, 1);
+    EXPECT_EQ(window.grid.Rows(), 14);
+    EXPECT_EQ(window.grid.cellText(12, 0), "112");
+    EXPECT_EQ(window.grid.cellText(13, 0), "");
+    EXPECT_EQ(context.GridRow, 13);
+}
+
 } // namespace
 } // namespace brooklet
