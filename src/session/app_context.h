@@ -3,6 +3,7 @@
 // Windows receive it by reference; a test makes its own in its own program folder.
 #include "editing/grid_editor.h"
 #include "editing/watershed_tables.h"
+#include "plots/plot_data.h"
 #include "session/platform.h"
 #include "session/section_table.h"
 #include "session/window_host.h"
@@ -21,6 +22,7 @@ struct AppContext {
     int CurrentAlternate = 0;
     GridContext tabular;       // the grid variables and tabular tables of the grid window open
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
+    PlotData plots;            // the plot request and arrays handed to the plot window
 };
 
 } // namespace brooklet

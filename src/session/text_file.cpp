@@ -9,11 +9,11 @@ namespace fs = std::filesystem;
 
 namespace brooklet {
 
-std::string LineReader::readLine() {
+std::string_view LineReader::nextLine() {
     const size_t start = pos_;
     while (pos_ < bytes_.size() && bytes_[pos_] != '\r' && bytes_[pos_] != '\n')
         ++pos_;
-    std::string line = bytes_.substr(start, pos_ - start);
+    const std::string_view line = std::string_view(bytes_).substr(start, pos_ - start);
     if (pos_ < bytes_.size()) {
         if (bytes_[pos_] == '\r' && pos_ + 1 < bytes_.size() && bytes_[pos_ + 1] == '\n')
             pos_ += 2;
@@ -25,18 +25,28 @@ std::string LineReader::readLine() {
 
 std::optional<std::string> readFileBytes(const std::string& path) {
     std::error_code ec;
-    if (!fs::is_regular_file(path, ec)) return std::nullopt;
+    if (!fs::is_regular_file(path, ec))
+        return std::nullopt;
     std::ifstream in(path, std::ios::binary);
-    if (!in) return std::nullopt;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) return std::nullopt;
+    if (!in)
+        return std::nullopt;
+    // Read in large blocks: printed page files run to hundreds of megabytes.
+    std::string bytes;
+    if (const auto size = fs::file_size(path, ec); !ec)
+        bytes.reserve(static_cast<size_t>(size));
+    std::string block(1 << 20, '\0');
+    while (in.read(block.data(), static_cast<std::streamsize>(block.size())) || in.gcount() > 0)
+        bytes.append(block.data(), static_cast<size_t>(in.gcount()));
+    if (in.bad())
+        return std::nullopt;
     return bytes;
 }
 
 std::vector<std::string> readLines(const std::string& path) {
     std::vector<std::string> lines;
     auto bytes = readFileBytes(path);
-    if (!bytes) return lines;
+    if (!bytes)
+        return lines;
     LineReader reader(std::move(*bytes));
     while (!reader.atEnd())
         lines.push_back(reader.readLine());
@@ -45,13 +55,15 @@ std::vector<std::string> readLines(const std::string& path) {
 
 std::optional<std::string> readFirstLine(const std::string& path) {
     auto bytes = readFileBytes(path);
-    if (!bytes || bytes->empty()) return std::nullopt;
+    if (!bytes || bytes->empty())
+        return std::nullopt;
     return LineReader(std::move(*bytes)).readLine();
 }
 
 bool hasLineAfterFirst(const std::string& path) {
     auto bytes = readFileBytes(path);
-    if (!bytes) return false;
+    if (!bytes)
+        return false;
     LineReader reader(std::move(*bytes));
     reader.readLine();
     return !reader.atEnd();
@@ -61,7 +73,8 @@ WriteResult writeFileAtomically(const std::string& path, const std::string& byte
     const std::string sibling = path + ".part";
     {
         std::ofstream out(sibling, std::ios::binary | std::ios::trunc);
-        if (!out) return {false, "it cannot be created"};
+        if (!out)
+            return {false, "it cannot be created"};
         out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         out.flush();
         if (!out) {
@@ -131,7 +144,8 @@ void deleteFile(const std::string& path) {
 void deleteFilesWithExtension(const std::string& folder, const std::string& extension) {
     std::error_code ec;
     fs::directory_iterator it(folder, ec);
-    if (ec) return;
+    if (ec)
+        return;
     std::vector<fs::path> doomed;
     for (const auto& entry : it) {
         const std::string name = entry.path().filename().string();
