@@ -64,6 +64,8 @@ public:
     virtual bool runProgramAndWait(const std::string& program, const std::string& folder) = 0;
     // The printer the user chose, or nothing when the dialog was cancelled.
     virtual std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) = 0;
+    // Puts the text on the clipboard, in place of what it held.
+    virtual void setClipboardText(const std::string& text) = 0;
 };
 
 } // namespace brooklet

@@ -3,6 +3,7 @@
 #include "editing/widgets.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontMetrics>
@@ -201,6 +202,10 @@ bool QtPlatform::runProgramAndWait(const std::string& program, const std::string
 void QtPlatform::endProgram() {
     QApplication::closeAllWindows();
     QCoreApplication::exit(0);
+}
+
+void QtPlatform::setClipboardText(const std::string& text) {
+    QApplication::clipboard()->setText(fromBytes(text));
 }
 
 } // namespace brooklet

@@ -20,6 +20,7 @@ public:
     void endProgram() override;
     bool runProgramAndWait(const std::string& program, const std::string& folder) override;
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
+    void setClipboardText(const std::string& text) override;
 };
 
 } // namespace brooklet

@@ -8,6 +8,7 @@
 #include "options/identifier_editor.h"
 #include "options/time_analysis_editor.h"
 #include "options/verification_editor.h"
+#include "plots/plot_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
 
@@ -27,6 +28,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmLocalLanduse", [](AppContext& context) { return new frmLocalLanduse(context); });
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
+    windows.registerWindow("frmIO_Plots", [](AppContext& context) { return new frmIO_Plots(context); });
 }
 
 } // namespace brooklet

@@ -21,6 +21,7 @@ public:
     // Programs really run, as the program runs them; the start is recorded.
     bool runProgramAndWait(const std::string& program, const std::string& folder) override;
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
+    void setClipboardText(const std::string& text) override { clipboardTexts.push_back(text); }
 
     // Answers for boxes with a choice, in order. A box with only OK needs none.
     std::deque<BoxAnswer> answers;
@@ -47,6 +48,8 @@ public:
     std::vector<FileDialogSettings> openDialogs;
     std::vector<FileDialogSettings> saveDialogs;
     int endCount = 0;
+    // Every text put on the clipboard, in order.
+    std::vector<std::string> clipboardTexts;
 
     // The texts of all boxes shown so far.
     std::vector<std::string> boxTexts() const;
