@@ -24,6 +24,7 @@ public:
     void endProgram() override {}
     bool runProgramAndWait(const std::string&, const std::string&) override { return false; }
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings&) override { return {}; }
+    void setClipboardText(const std::string&) override {}
 };
 
 // A program folder with a large input file, and the main window loaded in it.
