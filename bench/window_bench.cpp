@@ -36,6 +36,7 @@ public:
     }
     void stopProgram() override {}
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings&) override { return {}; }
+    void setClipboardText(const std::string&) override {}
 };
 
 // A program folder with a large input file, and the main window loaded in it.

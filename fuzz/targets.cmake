@@ -7,3 +7,4 @@ brooklet_fuzz_target(fuzz_network_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_networ
 brooklet_fuzz_target(fuzz_value_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_value_sections.cpp)
 brooklet_fuzz_target(fuzz_network ${CMAKE_CURRENT_LIST_DIR}/fuzz_network.cpp)
 brooklet_fuzz_target(fuzz_rating_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_rating_sections.cpp)
+brooklet_fuzz_target(fuzz_output_reader ${CMAKE_CURRENT_LIST_DIR}/fuzz_output_reader.cpp)

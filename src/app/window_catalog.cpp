@@ -10,6 +10,7 @@
 #include "options/identifier_editor.h"
 #include "options/time_analysis_editor.h"
 #include "options/verification_editor.h"
+#include "plots/plot_window.h"
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
@@ -43,6 +44,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
     windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
     windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
+    windows.registerWindow("frmIO_Plots", [](AppContext& context) { return new frmIO_Plots(context); });
     windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
     windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });

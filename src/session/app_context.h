@@ -3,6 +3,7 @@
 // Windows receive it by reference; a test makes its own in its own program folder.
 #include "editing/grid_editor.h"
 #include "editing/watershed_tables.h"
+#include "editing/plot_data.h"
 #include "session/platform.h"
 #include "session/section_table.h"
 #include "session/window_host.h"
@@ -23,9 +24,7 @@ struct AppContext {
     bool ProgramRunning = false;
     GridContext tabular;       // the grid variables and tabular tables of the grid window open
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
-    // The kind of plot the plot window draws next: 1 to 5 for the tables of the tabular
-    // windows, 6 to 8 for model results.
-    int PlotKind = 0;
+    PlotData plots;            // the plot request and arrays handed to the plot window
 };
 
 } // namespace brooklet

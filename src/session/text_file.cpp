@@ -14,12 +14,12 @@ LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)) {
         pos_ = 3;
 }
 
-std::string LineReader::readLine() {
+std::string_view LineReader::nextLine() {
     ++lineNumber_;
     const size_t start = pos_;
     while (pos_ < bytes_.size() && bytes_[pos_] != '\r' && bytes_[pos_] != '\n')
         ++pos_;
-    std::string line = bytes_.substr(start, pos_ - start);
+    const std::string_view line = std::string_view(bytes_).substr(start, pos_ - start);
     if (pos_ < bytes_.size()) {
         if (bytes_[pos_] == '\r' && pos_ + 1 < bytes_.size() && bytes_[pos_ + 1] == '\n')
             pos_ += 2;
@@ -36,7 +36,13 @@ std::optional<std::string> readFileBytes(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in)
         return std::nullopt;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    // Read in large blocks: printed page files run to hundreds of megabytes.
+    std::string bytes;
+    if (const auto size = fs::file_size(path, ec); !ec)
+        bytes.reserve(static_cast<size_t>(size));
+    std::string block(1 << 20, '\0');
+    while (in.read(block.data(), static_cast<std::streamsize>(block.size())) || in.gcount() > 0)
+        bytes.append(block.data(), static_cast<size_t>(in.gcount()));
     if (in.bad())
         return std::nullopt;
     return bytes;

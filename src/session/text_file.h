@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brooklet {
@@ -15,7 +16,9 @@ class LineReader {
 public:
     explicit LineReader(std::string bytes);
     bool atEnd() const { return pos_ >= bytes_.size(); }
-    std::string readLine();
+    std::string readLine() { return std::string(nextLine()); }
+    // The next line as a view into the bytes, valid while the reader lives.
+    std::string_view nextLine();
     // How many lines have been read, so the number of the line last read.
     int lineNumber() const { return lineNumber_; }
 

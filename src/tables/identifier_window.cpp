@@ -156,7 +156,7 @@ void IdentifierWindow::displayData() {
     }
     storeStep();
     Tag_ = QString::number(tabular.TableNext);
-    context.PlotKind = tabularDesign_.PlotKind;
+    context.plots.PlotKind = tabularDesign_.PlotKind;
     context.windows.ShowModal("frmIO_Plots");
 }
 

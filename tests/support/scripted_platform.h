@@ -37,6 +37,10 @@ public:
     void clearClipboard() override;
     void setClipboardBitmap(const Bitmap& picture) override;
     std::optional<Bitmap> clipboardBitmap() override { return clipboard; }
+    void setClipboardText(const std::string& text) override {
+        clipboardTexts.push_back(text);
+        Platform::setClipboardText(text);
+    }
 
     // Answers for boxes with a choice, in order. A box with only OK needs none.
     std::deque<BoxAnswer> answers;
@@ -96,6 +100,8 @@ public:
     std::vector<FileDialogSettings> openDialogs;
     std::vector<FileDialogSettings> saveDialogs;
     int endCount = 0;
+    // Every text put on the clipboard, in order.
+    std::vector<std::string> clipboardTexts;
 
     // The texts of all boxes shown so far.
     std::vector<std::string> boxTexts() const;

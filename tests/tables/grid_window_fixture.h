@@ -25,7 +25,7 @@ inline std::string tens(std::initializer_list<std::string> fields) {
 class PlotWindowStandIn : public QWidget {
 public:
     PlotWindowStandIn(AppContext& context, const QString& editor) {
-        kind = context.PlotKind;
+        kind = context.plots.PlotKind;
         if (QWidget* window = context.windows.loaded(editor))
             entry = window->property("Tag").toString();
         opened += 1;

@@ -492,24 +492,13 @@ TEST_F(StructureRatingEditorTest, DisplayDataStoresPublishesTheEntryAndOpensTheP
     EXPECT_TRUE(PlotWindowStandIn::wasModal);
     EXPECT_EQ(PlotWindowStandIn::kind, 4);
     EXPECT_EQ(PlotWindowStandIn::entry, "2");
-    EXPECT_EQ(context->PlotKind, 4);
+    EXPECT_EQ(context->plots.PlotKind, 4);
     // The rows were stored where the plot window reads them.
     const GridContext& tables = context->tabular;
     EXPECT_EQ(tables.TableLast[2] - tables.TableFirst[2], 1);
     EXPECT_EQ(tables.ValueStore(1, tables.TableLast[2]), "91");
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_FALSE(windowClosed());
-}
-
-TEST_F(StructureRatingEditorTest, DisplayDataOpensNothingWhileThereIsNoPlotWindow) {
-    writeWorkFile(TwoStructures);
-    open();
-    enterName("DAM");
-    click(plotButton());
-    EXPECT_EQ(context->PlotKind, 4);
-    EXPECT_EQ(window->Tag(), "1");
-    EXPECT_FALSE(context->windows.shownNames().contains("frmIO_Plots"));
-    EXPECT_EQ(context->windows.loaded("frmIO_Plots"), nullptr);
 }
 
 TEST_F(StructureRatingEditorTest, DisplayDataWithNoStructureChosenSaysNoneSelected) {
@@ -525,7 +514,7 @@ TEST_F(StructureRatingEditorTest, DisplayDataWithNoStructureChosenSaysNoneSelect
     click(plotButton());
     const BoxRequest noneSelected{"None Selected", DefaultBoxTitle, BoxButtons::Ok, BoxIcon::None};
     EXPECT_EQ(platform.boxes, std::vector<BoxRequest>{noneSelected});
-    EXPECT_EQ(context->PlotKind, 0);
+    EXPECT_EQ(context->plots.PlotKind, 0);
 }
 
 TEST_F(StructureRatingEditorTest, TheButtonNeedsTwoRows) {
