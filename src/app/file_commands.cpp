@@ -71,6 +71,9 @@ bool SaveInputFile(AppContext& context) {
 
 void ConvertOldData(AppContext& context, frmMain& main) {
     Session& session = context.session;
+    // The converted file replaces the work files, where unsaved changes live: ask first.
+    if (main.askAboutUnsavedChanges("converted old Flume data ?") == frmMain::UnsavedChanges::Kept)
+        return;
     main.CmnDialog1().FilterIndex = 1;
     const auto chosen =
         main.chooseFileToOpen("Data Files (*.dat)|*.dat|All files (*.*)|*.*", "*.dat", "Open old Flume file");

@@ -365,8 +365,11 @@ void frmMain::setCaptionToCurrentFile() {
 
 void frmMain::newFile() {
     beginFileCommand();
-    CloseInputFile();
-    context_.windows.ShowWindowAtOrigin("frmFlume");
+    // Unsaved changes live only in the work files that a new file clears: ask first.
+    if (askAboutUnsavedChanges("a new Brooklet input data file ?") != UnsavedChanges::Kept) {
+        CloseInputFile();
+        context_.windows.ShowWindowAtOrigin("frmFlume");
+    }
     endFileCommand();
 }
 
@@ -540,26 +543,39 @@ void frmMain::exitProgram() {
     context_.platform.endProgram();
 }
 
-void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Prompt, bool& Cancelled) {
+frmMain::UnsavedChanges frmMain::askAboutUnsavedChanges(const std::string& Prompt) {
     Session& session = context_.session;
-    OldName = session.CurrentFile;
+    if (!session.DataChanged)
+        return UnsavedChanges::None;
+    const BoxAnswer answer =
+        context_.platform.showBox({"Save and Close current file before loading\r" + Prompt, DefaultBoxTitle,
+                                   BoxButtons::YesNoCancel, BoxIcon::None});
+    if (answer == BoxAnswer::Cancel)
+        return UnsavedChanges::Kept;
+    if (answer == BoxAnswer::No)
+        return UnsavedChanges::Discarded;
+    // A session without a name is saved under the name the user gives. A save that did not
+    // happen stops the command: the session stays as it was.
+    if (session.isUntitled())
+        SaveInputFileAs();
+    else
+        SaveInputFile(context_);
+    return session.DataChanged || session.isUntitled() ? UnsavedChanges::Kept : UnsavedChanges::Saved;
+}
+
+void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Prompt, bool& Cancelled) {
+    OldName = context_.session.CurrentFile;
     Cancelled = false;
-    session.RunResultLabel = " ";
-    if (session.DataChanged && !session.isUntitled()) {
-        const BoxAnswer answer =
-            context_.platform.showBox({"Save and Close current file before loading\r" + Prompt,
-                                       DefaultBoxTitle, BoxButtons::YesNoCancel, BoxIcon::None});
-        if (answer == BoxAnswer::Cancel) {
-            Cancelled = true;
-            return;
-        }
-        if (answer == BoxAnswer::No)
-            return;
-        // A save that did not happen stops the command: the session stays as it was.
-        if (!SaveInputFile(context_)) {
-            Cancelled = true;
-            return;
-        }
+    context_.session.RunResultLabel = " ";
+    switch (askAboutUnsavedChanges(Prompt)) {
+    case UnsavedChanges::Kept:
+        Cancelled = true;
+        return;
+    case UnsavedChanges::Discarded:
+        return;
+    case UnsavedChanges::None:
+    case UnsavedChanges::Saved:
+        break;
     }
     CloseInputFile();
     OldName = " ";

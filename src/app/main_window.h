@@ -38,6 +38,12 @@ public:
     FileDialogSettings& CmnDialog1() { return dialog_; }
 
     void PromptBeforeLoading(std::string& OldName, const std::string& Prompt, bool& Cancelled);
+    // What became of the session's unsaved changes when a command was about to replace them.
+    enum class UnsavedChanges { None, Saved, Discarded, Kept };
+    // Asks, when there are unsaved changes, whether to save them first (Save As for a session
+    // without a name). Kept when the user cancelled or the save did not happen: the command
+    // must then leave the session alone.
+    UnsavedChanges askAboutUnsavedChanges(const std::string& Prompt);
     void CloseInputFile();
     void SaveInputFileAs();
 

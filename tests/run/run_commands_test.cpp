@@ -514,7 +514,7 @@ TEST_F(WindowsProgramTest, WithoutWineTheBoxSaysTheProgramNeedsIt) {
     EXPECT_EQ(viewer(), nullptr);
 }
 
-TEST_F(RunCommandsTest, ConvertLoadsTheConvertedFileWithoutAQuestion) {
+TEST_F(RunCommandsTest, ConvertAsksAboutUnsavedChangesAndLoadsTheConvertedFile) {
     installProgram("Flume_Converter.exe");
     writeBytes(folder.file("converted.txt"),
                crlf({"Brooklet: Version 1.0", "CONVERTED", "", "Sub-Area:", "  A1"}));
@@ -524,6 +524,16 @@ TEST_F(RunCommandsTest, ConvertLoadsTheConvertedFileWithoutAQuestion) {
     writeBytes(workFile(8), crlf({"Stream Reach:", "  UNSAVED"}));
     session().DataChanged = true;
     session().CurrentFile = folder.file("earlier.inp");
+    // Cancel keeps the session: no file is asked for.
+    platform.answers.push_back(BoxAnswer::Cancel);
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_TRUE(platform.openDialogs.empty());
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  UNSAVED"}));
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].text,
+              "Save and Close current file before loading\rconverted old Flume data ?");
+    platform.boxes.clear();
+    platform.answers.push_back(BoxAnswer::No);
     platform.openPicks.push_back(old);
     clickMenuItem("mnuFileItem(6)");
 
@@ -534,7 +544,7 @@ TEST_F(RunCommandsTest, ConvertLoadsTheConvertedFileWithoutAQuestion) {
     EXPECT_EQ(dialog.FileName, "*.dat");
     EXPECT_EQ(dialog.DialogTitle, "Open old Flume file");
     EXPECT_TRUE(dialog.CancelError);
-    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(platform.boxes.size(), 1u); // the question, answered No
     EXPECT_EQ(bytesOf(folder.file("flumeConv.fil")), old + "\r\n\r\n");
     EXPECT_EQ(session().ToolName, "Flume Input Converter (Flume_Converter.exe)");
     EXPECT_EQ(session().CurrentFile, folder.file("old.inp"));

@@ -319,11 +319,21 @@ TEST_F(MainWindowTest, EnterOnASectionOpensItsEditorWithoutAMouse) {
     EXPECT_EQ(context->windows.shownNames().last(), "frmDurInc");
 }
 
-TEST_F(MainWindowTest, NewClosesTheFileWithoutAQuestionAndOpensTheIdentifierEditor) {
+TEST_F(MainWindowTest, NewAsksAboutUnsavedChangesThenClosesTheFileAndOpensTheIdentifierEditor) {
     startMain();
     acceptEdit(8, {"Stream Reach:", "  R1"});
+    // Cancel keeps the session and its changes.
+    platform.answers.push_back(BoxAnswer::Cancel);
     clickMenuItem("mnuFileItem(1)");
-    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R1"}));
+    EXPECT_TRUE(context->windows.shownNames().isEmpty());
+    // No discards them.
+    platform.answers.push_back(BoxAnswer::No);
+    clickMenuItem("mnuFileItem(1)");
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(platform.boxes[1],
+              (BoxRequest{"Save and Close current file before loading\ra new Brooklet input data file ?",
+                          "BrookletSystem", BoxButtons::YesNoCancel, BoxIcon::None}));
     EXPECT_FALSE(fileExists(workFile(8)));
     EXPECT_TRUE(session().DataChanged); // a new file after an edit leaves it as it was
     EXPECT_EQ(session().CurrentFile, "> Untitled <");
@@ -474,13 +484,25 @@ TEST_F(MainWindowTest, OpenAnsweredYesSavesTheOldFileFirst) {
                                    ""}));
 }
 
-TEST_F(MainWindowTest, AnUntitledSessionWithChangesIsClosedWithNoQuestion) {
+TEST_F(MainWindowTest, AnUntitledSessionWithChangesIsAskedAboutAndSavedUnderANewName) {
     startMain();
     clickMenuItem("mnuFileItem(1)");
     acceptEdit(8, {"Stream Reach:", "  R9"});
-    openFile(inputFile("shed.inp", Shed));
-    EXPECT_TRUE(platform.boxes.empty());
+    const std::string shed = inputFile("shed.inp", Shed);
+    // Yes asks for a name; cancelling that dialog keeps the session and opens nothing.
+    platform.answers.push_back(BoxAnswer::Yes);
+    platform.savePicks.push_back(std::nullopt);
+    clickMenuItem("mnuFileItem(2)");
+    EXPECT_TRUE(platform.openDialogs.empty());
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R9"}));
+    // Yes with a name saves the changes there, then the other file opens.
+    platform.answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+    platform.savePicks.push_back(folder.file("kept"));
+    openFile(shed);
+    EXPECT_NE(bytesOf(folder.file("kept.inp")).find("Stream Reach:\r\n  R9\r\n"), std::string::npos);
     EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R1        OUTLET"}));
+    EXPECT_EQ(platform.boxes[0].text,
+              "Save and Close current file before loading\ranother Brooklet input data file ?");
 }
 
 TEST_F(MainWindowTest, ReOpenLastSessionGoesOnWithTheWorkFilesAsTheyWere) {
