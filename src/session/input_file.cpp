@@ -20,8 +20,8 @@ const int SaveOrder[SectionCount] = {
 
 namespace {
 
-bool isBlankLine(const std::string& line) {
-    return trim(line).empty();
+bool isBlankLine(std::string_view line) {
+    return line.find_first_not_of(' ') == std::string_view::npos;
 }
 
 // Only columns 1 to 40 name a section: the identification line carries run options from 41 on.
@@ -115,19 +115,21 @@ void ForgetPartlyRead(const Session& session) {
 
 void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete) {
     Complete = false;
-    std::vector<std::string> lines;
+    std::string section = std::move(Line);
+    section += "\r\n";
     while (true) {
-        lines.push_back(std::move(Line));
         if (input.atEnd()) {
             Complete = true;
             break;
         }
-        Line = input.readLine();
-        if (isBlankLine(Line))
+        const std::string_view line = input.nextLine();
+        if (isBlankLine(line))
             break;
+        section.append(line.data(), line.size());
+        section += "\r\n";
     }
     // A second section with the same header replaces the first.
-    writeLines(Path, lines);
+    writeFileAtomically(Path, section);
 }
 
 void AppendReformattedSections(const Session& session) {
@@ -159,9 +161,11 @@ SaveResult SaveInputFile(Session& session) {
             continue; // a missing work file leaves the section out, blank line and all
         LineReader reader(std::move(*bytes));
         while (!reader.atEnd()) {
-            std::string line = reader.readLine();
-            if (!isBlankLine(line))
-                joined += line + "\r\n";
+            const std::string_view line = reader.nextLine();
+            if (isBlankLine(line))
+                continue;
+            joined.append(line.data(), line.size());
+            joined += "\r\n";
         }
         joined += "\r\n";
     }

@@ -1,5 +1,6 @@
 #include "session/text_file.h"
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -17,8 +18,13 @@ LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)) {
 std::string_view LineReader::nextLine() {
     ++lineNumber_;
     const size_t start = pos_;
-    while (pos_ < bytes_.size() && bytes_[pos_] != '\r' && bytes_[pos_] != '\n')
-        ++pos_;
+    // The line ends at the first CR or LF: find the LF, then a CR before it.
+    const char* begin = bytes_.data() + start;
+    const size_t rest = bytes_.size() - start;
+    const void* lf = std::memchr(begin, '\n', rest);
+    const size_t toLf = lf ? static_cast<size_t>(static_cast<const char*>(lf) - begin) : rest;
+    const void* cr = std::memchr(begin, '\r', toLf);
+    pos_ = start + (cr ? static_cast<size_t>(static_cast<const char*>(cr) - begin) : toLf);
     const std::string_view line = std::string_view(bytes_).substr(start, pos_ - start);
     if (pos_ < bytes_.size()) {
         if (bytes_[pos_] == '\r' && pos_ + 1 < bytes_.size() && bytes_[pos_ + 1] == '\n')
@@ -36,13 +42,16 @@ std::optional<std::string> readFileBytes(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in)
         return std::nullopt;
-    // Read in large blocks: printed page files run to hundreds of megabytes.
-    std::string bytes;
-    if (const auto size = fs::file_size(path, ec); !ec)
-        bytes.reserve(static_cast<size_t>(size));
-    std::string block(1 << 20, '\0');
-    while (in.read(block.data(), static_cast<std::streamsize>(block.size())) || in.gcount() > 0)
-        bytes.append(block.data(), static_cast<size_t>(in.gcount()));
+    // One read of the size the file has; a file that grows meanwhile is read on to its end.
+    const auto size = fs::file_size(path, ec);
+    std::string bytes(ec ? 0 : static_cast<size_t>(size), '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<size_t>(in.gcount()));
+    if (in) {
+        char block[65536];
+        while (in.read(block, sizeof block) || in.gcount() > 0)
+            bytes.append(block, static_cast<size_t>(in.gcount()));
+    }
     if (in.bad())
         return std::nullopt;
     return bytes;
