@@ -39,22 +39,12 @@ QComboBox* LocalTableWindow::addList(const QString& accessibleName) {
 
 void LocalTableWindow::addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
                                          const QString& finishedCaption) {
-    cmdDelCur = new QPushButton(deleteCaption, this);
-    nameControl(cmdDelCur, "cmdDelCur", deleteCaption);
-    cmdCancel = new QPushButton(cancelCaption, this);
-    nameControl(cmdCancel, "cmdCancel", cancelCaption);
-    cmdFinished = new QPushButton(finishedCaption, this);
-    nameControl(cmdFinished, "cmdFinished", finishedCaption);
+    cmdDelCur = makeButton("cmdDelCur", deleteCaption);
     connect(cmdDelCur, &QPushButton::clicked, this, &LocalTableWindow::deleteCurrent);
-    connect(cmdCancel, &QPushButton::clicked, this, &LocalTableWindow::noChanges);
+    addButtons(cancelCaption, finishedCaption, {cmdDelCur});
+    // "Accept Changes" here is the window's own finish step.
+    disconnect(cmdFinished, &QPushButton::clicked, this, nullptr);
     connect(cmdFinished, &QPushButton::clicked, this, &LocalTableWindow::finish);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdDelCur);
-    buttons->addStretch();
-    buttons->addWidget(cmdCancel);
-    buttons->addWidget(cmdFinished);
-    auto* outer = static_cast<QVBoxLayout*>(layout());
-    outer->insertLayout(outer->indexOf(txtHelp), buttons);
 }
 
 void LocalTableWindow::resetTable() {

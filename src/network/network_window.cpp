@@ -100,22 +100,9 @@ void NetworkWindow::addAlternateLabels() {
 
 void NetworkWindow::addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
                                       const QString& finishedCaption) {
-    cmdDelCur = new QPushButton(deleteCaption, this);
-    nameControl(cmdDelCur, "cmdDelCur", deleteCaption.simplified());
-    cmdCancel = new QPushButton(cancelCaption, this);
-    nameControl(cmdCancel, "cmdCancel", cancelCaption.simplified());
-    cmdFinished = new QPushButton(finishedCaption, this);
-    nameControl(cmdFinished, "cmdFinished", finishedCaption.simplified());
+    cmdDelCur = makeButton("cmdDelCur", deleteCaption);
     connect(cmdDelCur, &QPushButton::clicked, this, &NetworkWindow::deleteCurrent);
-    connect(cmdCancel, &QPushButton::clicked, this, &NetworkWindow::noChanges);
-    connect(cmdFinished, &QPushButton::clicked, this, &NetworkWindow::acceptChanges);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdDelCur);
-    buttons->addStretch();
-    buttons->addWidget(cmdCancel);
-    buttons->addWidget(cmdFinished);
-    auto* outer = static_cast<QVBoxLayout*>(layout());
-    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+    addButtons(cancelCaption, finishedCaption, {cmdDelCur});
 }
 
 void NetworkWindow::fillList(std::initializer_list<int> indexes,

@@ -260,14 +260,22 @@ void EntryWindow::addRow(QWidget* label, std::initializer_list<QWidget*> fields,
     form_->addLayout(line, row, 1);
 }
 
-void EntryWindow::addButtons(const QString& cancelCaption, const QString& finishedCaption) {
-    cmdCancel = new QPushButton(cancelCaption, this);
-    nameControl(cmdCancel, "cmdCancel", cancelCaption);
-    cmdFinished = new QPushButton(finishedCaption, this);
-    nameControl(cmdFinished, "cmdFinished", finishedCaption);
+QPushButton* EntryWindow::makeButton(const QString& name, const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    nameControl(button, name, caption.trimmed());
+    return button;
+}
+
+void EntryWindow::addButtons(const QString& cancelCaption, const QString& finishedCaption,
+                             std::initializer_list<QPushButton*> leading) {
+    cmdCancel = makeButton("cmdCancel", cancelCaption);
+    cmdFinished = makeButton("cmdFinished", finishedCaption);
     connect(cmdCancel, &QPushButton::clicked, this, &EntryWindow::noChanges);
     connect(cmdFinished, &QPushButton::clicked, this, &EntryWindow::acceptChanges);
+    // The window's own buttons on the left, the two closing ones on the right.
     auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : leading)
+        buttons->addWidget(button);
     buttons->addStretch();
     buttons->addWidget(cmdCancel);
     buttons->addWidget(cmdFinished);

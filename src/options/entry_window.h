@@ -91,7 +91,10 @@ protected:
     QRadioButton* addOption(ControlArray<QRadioButton>& array, const QString& arrayName, int index,
                             const QString& caption, QButtonGroup* group);
     void addRow(QWidget* label, std::initializer_list<QWidget*> fields, QWidget* unit = nullptr);
-    void addButtons(const QString& cancelCaption, const QString& finishedCaption);
+    void addButtons(const QString& cancelCaption, const QString& finishedCaption,
+                    std::initializer_list<QPushButton*> leading = {});
+    // A button of the window's button row, named by its design name and its caption.
+    QPushButton* makeButton(const QString& name, const QString& caption);
     // A control that, given the focus by the keyboard, hands it on to box Index.
     void passFocusOn(QWidget* control, int index);
 

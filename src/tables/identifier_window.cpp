@@ -60,27 +60,12 @@ QComboBox* IdentifierWindow::addIdentifierCombo(const QString& accessibleName) {
 
 void IdentifierWindow::addCommandButtons(const QString& plotCaption, const QString& deleteCaption,
                                          const QString& cancelCaption, const QString& finishedCaption) {
-    CmdPlot = new QPushButton(plotCaption, this);
-    nameControl(CmdPlot, "CmdPlot", plotCaption);
+    CmdPlot = makeButton("CmdPlot", plotCaption);
     CmdPlot->setEnabled(false);
-    cmdDelCur = new QPushButton(deleteCaption, this);
-    nameControl(cmdDelCur, "cmdDelCur", deleteCaption);
-    cmdCancel = new QPushButton(cancelCaption, this);
-    nameControl(cmdCancel, "cmdCancel", cancelCaption);
-    cmdFinished = new QPushButton(finishedCaption, this);
-    nameControl(cmdFinished, "cmdFinished", finishedCaption);
+    cmdDelCur = makeButton("cmdDelCur", deleteCaption);
     connect(CmdPlot, &QPushButton::clicked, this, &IdentifierWindow::displayData);
     connect(cmdDelCur, &QPushButton::clicked, this, &IdentifierWindow::deleteCurrent);
-    connect(cmdCancel, &QPushButton::clicked, this, &IdentifierWindow::noChanges);
-    connect(cmdFinished, &QPushButton::clicked, this, &IdentifierWindow::acceptChanges);
-    auto* buttons = new QHBoxLayout;
-    for (QPushButton* button : {CmdPlot, cmdDelCur})
-        buttons->addWidget(button);
-    buttons->addStretch();
-    for (QPushButton* button : {cmdCancel, cmdFinished})
-        buttons->addWidget(button);
-    auto* outer = static_cast<QVBoxLayout*>(layout());
-    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+    addButtons(cancelCaption, finishedCaption, {CmdPlot, cmdDelCur});
 }
 
 std::string IdentifierWindow::boxText(int index) const {
