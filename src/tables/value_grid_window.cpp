@@ -209,9 +209,11 @@ bool NamedValueWindow::checkBox(int index) {
     QComboBox* combo = cmbInp(index);
     if (!box)
         return true;
+    // The check runs on what was typed; a combo box's text is then cut to an identifier.
+    const bool typedBlank = trim(combo ? toBytes(combo->currentText()) : boxText(index)).empty();
     const std::string text = combo ? toBytes(cutComboText(index)) : boxText(index);
     const bool blank = trim(text).empty();
-    if (blank && !Accepting) {
+    if (typedBlank && !Accepting) {
         updatePlotButton();
         return true;
     }
