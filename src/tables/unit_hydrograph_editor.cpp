@@ -107,6 +107,10 @@ void frmDimHyd::resetTable() {
 
 void frmDimHyd::updatePlotButton() {
     CmdPlot->setEnabled(panel_->values().Index > 2);
+    // Values typed into a fresh table can be deleted as soon as they are there, not only after a
+    // click in the grid.
+    if (panel_->values().Index > 2)
+        cmdDelAll->setEnabled(true);
 }
 
 void frmDimHyd::displayData() {

@@ -160,6 +160,7 @@ TEST_F(InputHydrographEditorTest, DeletingAHydrographEmptiesItsFieldsAndLeavesTh
     enterName("QUARRY");
     platform.answers.push_back(BoxAnswer::Yes);
     click(button("cmdDelCur"));
+    ASSERT_FALSE(platform.boxes.empty());
     EXPECT_EQ(platform.boxes.back(), (BoxRequest{"Delete Current input hydrograph ?", "Input Hydrograph",
                                                  BoxButtons::YesNo, BoxIcon::Question}));
     for (int index = 4; index <= 7; ++index)

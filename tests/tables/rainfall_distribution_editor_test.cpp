@@ -217,6 +217,7 @@ TEST_F(RainfallDistributionEditorTest, DeletingATableAsksThenLeavesOnlyTheOthers
     enterName("A");
     platform.answers.push_back(BoxAnswer::No);
     click(button("cmdDelCur"));
+    ASSERT_FALSE(platform.boxes.empty());
     EXPECT_EQ(platform.boxes.back(), DeleteQuestion);
     EXPECT_EQ(focused(), list());
     EXPECT_EQ(cell(0, 1), "0.2");
@@ -253,6 +254,7 @@ TEST_F(RainfallDistributionEditorTest, DisplayDataWithNoTableSaysNoneSelected) {
     registerPlotWindow();
     open();
     window->displayData();
+    ASSERT_FALSE(platform.boxes.empty());
     EXPECT_EQ(platform.boxes.back(),
               (BoxRequest{"None Selected", DefaultBoxTitle, BoxButtons::Ok, BoxIcon::None}));
     EXPECT_EQ(PlotWindowStandIn::opened, 0);

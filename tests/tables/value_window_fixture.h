@@ -3,6 +3,8 @@
 // Enter, clicks on its cells, the pop-up menu "Insert/Delete", and records of values.
 #include "grid_window_fixture.h"
 
+#include "tables/value_records.h"
+
 #include <QAction>
 #include <QMenu>
 
