@@ -2,45 +2,16 @@
 // session: the example watershed opened with the File menu, each value window opened from the
 // main list, a table shown or typed into, accepted, and the file saved again, compared byte
 // for byte.
+#include "section_round_trip_fixture.h"
 #include "value_window_fixture.h"
 
 #include "options/entry_window.h"
 
-#include <QListWidget>
-
 namespace brooklet::test {
 namespace {
 
-class ValueSectionsRoundTripTest : public WindowTest {
+class ValueSectionsRoundTripTest : public SectionRoundTripTest {
 protected:
-    std::string openExample() {
-        const std::string path = folder.file("watershed.inp");
-        writeBytes(path, bytesOf(std::string(BROOKLET_EXAMPLES_DIR) + "/watershed.inp"));
-        platform.openPicks.push_back(path);
-        clickMenuItem("mnuFileItem(2)");
-        EXPECT_EQ(session().CurrentFile, path);
-        context->windows.unload("frmFlume");
-        return path;
-    }
-    QWidget* openSection(int section, const QString& name) {
-        auto* list = control<QListWidget>(main, "CurrentLst");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->item(section - 1)).center());
-        QWidget* window = context->windows.loaded(name);
-        EXPECT_NE(window, nullptr) << section;
-        if (window) {
-            window->activateWindow();
-            QApplication::setActiveWindow(window);
-        }
-        return window;
-    }
-    void chooseEntry(QWidget* window, const QString& name) {
-        auto* combo = control<QComboBox>(window, "cmbInp(1)");
-        combo->setFocus();
-        combo->setEditText(QString());
-        QTest::keyClicks(combo, name);
-        QTest::keyClick(combo, Qt::Key_Return);
-    }
     QTableWidget* gridOf(QWidget* window) { return control<QTableWidget>(window, "MSFlexGrid1"); }
     // A click on a cell of the window's grid, then the values typed with Enter.
     void typeAt(QWidget* window, int row, int col, std::initializer_list<QString> values) {
@@ -52,11 +23,6 @@ protected:
             QTest::keyClick(grid, Qt::Key_Return);
         }
     }
-    void accept(QWidget* window) {
-        click(control<QPushButton>(window, "cmdFinished"));
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    void save() { clickMenuItem("mnuFileItem(14)"); }
 };
 
 TEST_F(ValueSectionsRoundTripTest, TheExampleWatershedComesThroughTheThreeValueWindowsUnchanged) {
