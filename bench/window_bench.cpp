@@ -5,18 +5,26 @@
 
 #include <benchmark/benchmark.h>
 
+#include "app/file_commands.h"
+#include "app/main_window.h"
+#include "app/window_catalog.h"
 #include "generated_watershed.h"
 #include "options/entry_window.h"
 #include "session/app_context.h"
-#include "app/file_commands.h"
-#include "app/main_window.h"
 #include "session/text_file.h"
-#include "app/window_catalog.h"
 #include "tables/storm_analysis.h"
 #include "tables/storm_editor.h"
 
-#include <QClipboard>
 #include "tables/grid_editor_window.h"
+#include "tables/input_hydrograph.h"
+#include "tables/rainfall_distribution.h"
+#include "tables/unit_hydrograph.h"
+#include "tables/unit_hydrograph_editor.h"
+#include "tables/value_grid_window.h"
+#include <QClipboard>
+
+#include <QKeyEvent>
+#include <QTableWidget>
 
 #include <QComboBox>
 
@@ -165,8 +173,8 @@ void pickEntry(GridEditorWindow* window, const QString& entry) {
 }
 
 // Opening the window on 1,000 entries of 20 rows, picking one, and accepting, each timed alone.
-void RatingWindow(benchmark::State& state, const QString& name, int section, const char* prefix, int rowFields,
-                  int step) {
+void RatingWindow(benchmark::State& state, const QString& name, int section, const char* prefix,
+                  int rowFields, int step) {
     LargeSession session(1);
     writeRatingSection(session.context.session, section, prefix, rowFields);
     const QString entry = QString(prefix) + "500";
@@ -207,6 +215,94 @@ BENCHMARK_CAPTURE(RatingWindow, CrossSectionPicks, "frmXsect", CrossSectionSecti
 BENCHMARK_CAPTURE(RatingWindow, CrossSectionAccepts, "frmXsect", CrossSectionSection, "X", 5, 2)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(40);
+
+// The value windows on 200 tables of 2,000 values (the unit hydrograph window on its one table
+// of 2,000): opening, showing a table, typing a value into it and accepting, each timed alone.
+std::vector<std::string> valueTexts(int count, double step) {
+    std::vector<std::string> values;
+    for (int n = 0; n < count; ++n)
+        values.push_back(std::to_string(n * step).substr(0, 8));
+    return values;
+}
+
+void writeValueSection(const Session& session, int section) {
+    std::vector<std::string> lines;
+    if (section == UnitHydrographSection) {
+        lines = WriteUnitHydrographSection(valueTexts(2000, 0.0005));
+    } else {
+        std::vector<ValueTable> tables;
+        for (int t = 1; t <= 200; ++t) {
+            const std::string name = "T" + std::to_string(t);
+            if (section == RainfallDistributionSection)
+                tables.push_back({{name, "0.1"}, valueTexts(2000, 0.0005)});
+            else
+                tables.push_back({{name, "R1", "S1", "0.", "0.1", "1.", "0."}, valueTexts(2000, 0.5)});
+        }
+        lines = section == RainfallDistributionSection ? WriteRainfallDistributionSection(tables)
+                                                       : WriteInputHydrographSection(tables);
+    }
+    std::string file;
+    for (const std::string& line : lines)
+        file += line + "\r\n";
+    writeFileAtomically(session.WorkFilePath[section], file);
+}
+
+// A value typed into cell (row, col) of the window's grid, as the user clicks and types.
+void typeValue(ValueGridPanel& panel, int row, int col, const QString& text) {
+    panel.pressCell(row, col, Qt::LeftButton, QPoint());
+    for (const QChar character : text) {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
+        QCoreApplication::sendEvent(panel.MSFlexGrid1, &key);
+    }
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+    QCoreApplication::sendEvent(panel.MSFlexGrid1, &enter);
+}
+
+void ValueWindow(benchmark::State& state, const QString& name, int section, int step) {
+    LargeSession session(1);
+    writeValueSection(session.context.session, section);
+    for (auto _ : state) {
+        if (step != 0)
+            state.PauseTiming();
+        QWidget* window = session.context.windows.ShowWindowAtOrigin(name);
+        if (step == 0)
+            state.PauseTiming();
+        auto* named = qobject_cast<NamedValueWindow*>(window);
+        ValueGridPanel& panel = named ? named->panel() : qobject_cast<frmDimHyd*>(window)->panel();
+        if (step == 1)
+            state.ResumeTiming();
+        if (named) {
+            window->findChild<QComboBox*>("cmbInp(1)")->setEditText("T100");
+            named->leaveIdentifier();
+        }
+        if (step == 1)
+            state.PauseTiming();
+        if (step == 2)
+            state.ResumeTiming();
+        typeValue(panel, 10, 2, "0.0101");
+        if (step == 2)
+            state.PauseTiming();
+        if (step == 3)
+            state.ResumeTiming();
+        static_cast<EntryWindow*>(window)->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (step != 3)
+            state.ResumeTiming();
+    }
+}
+#define VALUE_WINDOW_BENCHMARK(Label, Name, Section, Step)                                                   \
+    BENCHMARK_CAPTURE(ValueWindow, Label, Name, Section, Step)->Unit(benchmark::kMillisecond)->Iterations(20)
+VALUE_WINDOW_BENCHMARK(RainDistOpens, "frmRainDist", RainfallDistributionSection, 0);
+VALUE_WINDOW_BENCHMARK(RainDistShows, "frmRainDist", RainfallDistributionSection, 1);
+VALUE_WINDOW_BENCHMARK(RainDistTypes, "frmRainDist", RainfallDistributionSection, 2);
+VALUE_WINDOW_BENCHMARK(RainDistAccepts, "frmRainDist", RainfallDistributionSection, 3);
+VALUE_WINDOW_BENCHMARK(InpHydOpens, "frmInpHyd", InputHydrographSection, 0);
+VALUE_WINDOW_BENCHMARK(InpHydShows, "frmInpHyd", InputHydrographSection, 1);
+VALUE_WINDOW_BENCHMARK(InpHydTypes, "frmInpHyd", InputHydrographSection, 2);
+VALUE_WINDOW_BENCHMARK(InpHydAccepts, "frmInpHyd", InputHydrographSection, 3);
+VALUE_WINDOW_BENCHMARK(DimHydOpensAndShows, "frmDimHyd", UnitHydrographSection, 0);
+VALUE_WINDOW_BENCHMARK(DimHydTypes, "frmDimHyd", UnitHydrographSection, 2);
+VALUE_WINDOW_BENCHMARK(DimHydAccepts, "frmDimHyd", UnitHydrographSection, 3);
 
 } // namespace
 } // namespace brooklet::bench

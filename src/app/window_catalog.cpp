@@ -15,8 +15,11 @@
 #include "run/file_viewer.h"
 #include "session/window_host.h"
 #include "tables/cross_section_editor.h"
+#include "tables/input_hydrograph_editor.h"
+#include "tables/rainfall_distribution_editor.h"
 #include "tables/storm_editor.h"
 #include "tables/structure_rating_editor.h"
+#include "tables/unit_hydrograph_editor.h"
 
 namespace brooklet {
 
@@ -47,6 +50,9 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmIO_Plots", [](AppContext& context) { return new frmIO_Plots(context); });
     windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
     windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
+    windows.registerWindow("frmRainDist", [](AppContext& context) { return new frmRainDist(context); });
+    windows.registerWindow("frmInpHyd", [](AppContext& context) { return new frmInpHyd(context); });
+    windows.registerWindow("frmDimHyd", [](AppContext& context) { return new frmDimHyd(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
 }
 

@@ -86,6 +86,21 @@ void ValueGrid::press(int row, int col) {
     MoveGridCursor(context_, grid_, Row, Col, Index, Valid, Typing);
 }
 
+void ValueGrid::pickFirstCell() {
+    press(0, 0);
+    context_.GridBusy = true;
+    grid_.setCellColour(Row, Col, UntouchedColour);
+    Row = 0;
+    Col = 0;
+    grid_.setRow(Row);
+    grid_.setCol(Col);
+    grid_.setCellColour(Row, Col, CurrentColour);
+    context_.MarkedRow = Row;
+    context_.MarkedCol = Col;
+    Typing = false;
+    context_.GridBusy = false;
+}
+
 void ValueGrid::leave() {
     int enterKey = EnterKey;
     key(enterKey);

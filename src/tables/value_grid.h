@@ -51,6 +51,9 @@ public:
     void cellChanged(int row, int col);
     // A mouse button pressed on a cell makes it current.
     void press(int row, int col);
+    // A click on the first cell: the cursor passes over the table's zero, but a click stops
+    // there, so that the zero can be retyped.
+    void pickFirstCell();
     // The grid loses the focus: an Enter finishes the value being typed, and the marked cell is
     // unmarked, keeping its red when its value is refused.
     void leave();
