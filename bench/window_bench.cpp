@@ -5,18 +5,19 @@
 
 #include <benchmark/benchmark.h>
 
+#include "app/file_commands.h"
+#include "app/main_window.h"
+#include "app/window_catalog.h"
 #include "generated_watershed.h"
 #include "options/entry_window.h"
 #include "session/app_context.h"
-#include "app/file_commands.h"
-#include "app/main_window.h"
 #include "session/text_file.h"
-#include "app/window_catalog.h"
 #include "tables/storm_analysis.h"
 #include "tables/storm_editor.h"
 
-#include <QClipboard>
+#include "network/sub_area_editor.h"
 #include "tables/grid_editor_window.h"
+#include <QClipboard>
 
 #include <QComboBox>
 
@@ -111,6 +112,28 @@ BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, SubArea, "frmSubArea")
 BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, Reaches, "frmReaches")
     ->Arg(5000)
     ->Unit(benchmark::kMillisecond);
+// The sub-area window on 5,000 sub-areas with its row A2502 (sheet, channel and two land use
+// records) picked; each round opens a calculator from its button and returns from it, which
+// hands the row back and rewrites work file 11.
+void CalculatorOpensAndReturns(benchmark::State& state, int button) {
+    LargeSession session(static_cast<int>(state.range(0)));
+    session.context.session.CurrentFile = session.file;
+    LoadInputFile(session.context);
+    session.closeWindows();
+    auto* subArea = qobject_cast<frmSubArea*>(session.context.windows.ShowWindowAtOrigin("frmSubArea"));
+    subArea->findChild<QComboBox*>("cmbInp(1)")->setEditText("A2502");
+    subArea->leaveList(1);
+    for (auto _ : state) {
+        subArea->openCalculator(button);
+        auto* calculator =
+            qobject_cast<EntryWindow*>(session.context.windows.loaded(button == 0 ? "frmLandUse" : "frmTc"));
+        calculator->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+BENCHMARK_CAPTURE(CalculatorOpensAndReturns, LandUse, 0)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalculatorOpensAndReturns, Tc, 1)->Arg(5000)->Unit(benchmark::kMillisecond);
+
 // The storm window opened on a storm section of n rows, a row for the last pair pasted in
 // (which looks the pair up through every row and writes into it), and Accept.
 void StormWindowOpensTakesARowAndAccepts(benchmark::State& state) {
@@ -165,8 +188,8 @@ void pickEntry(GridEditorWindow* window, const QString& entry) {
 }
 
 // Opening the window on 1,000 entries of 20 rows, picking one, and accepting, each timed alone.
-void RatingWindow(benchmark::State& state, const QString& name, int section, const char* prefix, int rowFields,
-                  int step) {
+void RatingWindow(benchmark::State& state, const QString& name, int section, const char* prefix,
+                  int rowFields, int step) {
     LargeSession session(1);
     writeRatingSection(session.context.session, section, prefix, rowFields);
     const QString entry = QString(prefix) + "500";
