@@ -107,33 +107,17 @@ void frmLandUse::buildControls() {
     deleteItem->setObjectName(indexedName("mnuDelInsItem", 2));
     connect(deleteItem, &QAction::triggered, this, &frmLandUse::deleteValue);
 
-    cmdDelCur = new QPushButton("Delete Land Use Details", this);
-    nameControl(cmdDelCur, "cmdDelCur", "Delete Land Use Details");
     CmdPopup = new QPushButton("    Display          Local Soils", this);
     nameControl(CmdPopup, "CmdPopup", "Display Local Soils");
-    cmdFinished = new QPushButton("Return to Sub-Area", this);
-    nameControl(cmdFinished, "cmdFinished", "Return to Sub-Area");
-    connect(cmdDelCur, &QPushButton::clicked, this, &frmLandUse::deleteCurrent);
     connect(CmdPopup, &QPushButton::clicked, this,
             [this] { this->context.windows.ShowWindowAtOrigin("frmDisplaySoil"); });
-    connect(cmdFinished, &QPushButton::clicked, this, &frmLandUse::acceptChanges);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdDelCur);
-    buttons->addWidget(CmdPopup);
-    buttons->addStretch();
-    buttons->addWidget(cmdFinished);
-    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+    addReturnButtons("Delete Land Use Details", {CmdPopup});
 }
 
 void frmLandUse::setDefaults() {
     lblInUnit(AreaBox)->setText(fromBytes(session.Units.AreaUnit));
     lblInUnit(AccumulatedBox)->setText(fromBytes(session.Units.AreaUnit));
-    if (alternateMode()) {
-        lblStatic(2)->setText(fromBytes(
-            tables.AlternateNames(1, std::min(context.CurrentAlternate, tables.AlternateNames.rows()))));
-        lblStatic(1)->show();
-        lblStatic(2)->show();
-    }
+    showAlternateName();
 }
 
 void frmLandUse::afterLoad() {

@@ -103,17 +103,7 @@ void frmTc::buildControls() {
     auto* outer = static_cast<QVBoxLayout*>(layout());
     outer->insertLayout(outer->indexOf(txtHelp), table);
 
-    cmdDelCur = new QPushButton("Delete Tc Details", this);
-    nameControl(cmdDelCur, "cmdDelCur", "Delete Tc Details");
-    cmdFinished = new QPushButton("Return to Sub-Area", this);
-    nameControl(cmdFinished, "cmdFinished", "Return to Sub-Area");
-    connect(cmdDelCur, &QPushButton::clicked, this, &frmTc::deleteCurrent);
-    connect(cmdFinished, &QPushButton::clicked, this, &frmTc::acceptChanges);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdDelCur);
-    buttons->addStretch();
-    buttons->addWidget(cmdFinished);
-    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+    addReturnButtons("Delete Tc Details");
 }
 
 void frmTc::setDefaults() {
@@ -124,12 +114,7 @@ void frmTc::setDefaults() {
     lblInUnit(22)->setText(fromBytes(units.SmallAreaUnit));
     lblInUnit(24)->setText(fromBytes(units.VelocityUnit));
     lblInUnit(26)->setText("hr");
-    if (alternateMode()) {
-        lblStatic(2)->setText(fromBytes(
-            tables.AlternateNames(1, std::min(context.CurrentAlternate, tables.AlternateNames.rows()))));
-        lblStatic(1)->show();
-        lblStatic(2)->show();
-    }
+    showAlternateName();
     QStringList sheet{" "}, shallow{" "};
     for (const char* surface : SheetSurfaces)
         sheet << surface;
