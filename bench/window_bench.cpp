@@ -25,6 +25,7 @@
 
 #include <QKeyEvent>
 #include <QTableWidget>
+#include "network/sub_area_editor.h"
 
 #include <QComboBox>
 
@@ -119,6 +120,28 @@ BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, SubArea, "frmSubArea")
 BENCHMARK_CAPTURE(NetworkEditorOpensAndAccepts, Reaches, "frmReaches")
     ->Arg(5000)
     ->Unit(benchmark::kMillisecond);
+// The sub-area window on 5,000 sub-areas with its row A2502 (sheet, channel and two land use
+// records) picked; each round opens a calculator from its button and returns from it, which
+// hands the row back and rewrites work file 11.
+void CalculatorOpensAndReturns(benchmark::State& state, int button) {
+    LargeSession session(static_cast<int>(state.range(0)));
+    session.context.session.CurrentFile = session.file;
+    LoadInputFile(session.context);
+    session.closeWindows();
+    auto* subArea = qobject_cast<frmSubArea*>(session.context.windows.ShowWindowAtOrigin("frmSubArea"));
+    subArea->findChild<QComboBox*>("cmbInp(1)")->setEditText("A2502");
+    subArea->leaveList(1);
+    for (auto _ : state) {
+        subArea->openCalculator(button);
+        auto* calculator =
+            qobject_cast<EntryWindow*>(session.context.windows.loaded(button == 0 ? "frmLandUse" : "frmTc"));
+        calculator->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+BENCHMARK_CAPTURE(CalculatorOpensAndReturns, LandUse, 0)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalculatorOpensAndReturns, Tc, 1)->Arg(5000)->Unit(benchmark::kMillisecond);
+
 // The storm window opened on a storm section of n rows, a row for the last pair pasted in
 // (which looks the pair up through every row and writes into it), and Accept.
 void StormWindowOpensTakesARowAndAccepts(benchmark::State& state) {

@@ -1,10 +1,12 @@
 #include "app/window_catalog.h"
 
 #include "editing/help_windows.h"
+#include "network/land_use_window.h"
 #include "network/local_land_use_editor.h"
 #include "network/local_soil_editor.h"
 #include "network/reach_editor.h"
 #include "network/sub_area_editor.h"
+#include "network/tc_calculator.h"
 #include "options/duration_increment_editor.h"
 #include "options/global_output_editor.h"
 #include "options/identifier_editor.h"
@@ -45,6 +47,8 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmLocalSoil", [](AppContext& context) { return new frmLocalSoil(context); });
     windows.registerWindow("frmDisplaySoil", [](AppContext& context) { return new frmDisplaySoil(context); });
     windows.registerWindow("frmSubArea", [](AppContext& context) { return new frmSubArea(context); });
+    windows.registerWindow("frmTc", [](AppContext& context) { return new frmTc(context); });
+    windows.registerWindow("frmLandUse", [](AppContext& context) { return new frmLandUse(context); });
     windows.registerWindow("frmReaches", [](AppContext& context) { return new frmReaches(context); });
     windows.registerWindow("frmStorm", [](AppContext& context) { return new frmStorm(context); });
     windows.registerWindow("frmIO_Plots", [](AppContext& context) { return new frmIO_Plots(context); });

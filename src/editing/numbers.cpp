@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cfloat>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 
@@ -175,6 +176,22 @@ double leadingNumber(const std::string& text) {
     scanExponent(text, i, plain);
     const double value = std::strtod(plain.c_str(), nullptr);
     return std::isfinite(value) ? value : 0.0;
+}
+
+std::string NumberText(double value) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.15g", value == 0.0 ? 0.0 : value);
+    return text;
+}
+
+std::string NumberText(float value) {
+    char text[40];
+    for (int digits = 6; digits <= 9; ++digits) {
+        std::snprintf(text, sizeof text, "%.*g", digits, double(value == 0.0f ? 0.0f : value));
+        if (std::strtof(text, nullptr) == value)
+            break;
+    }
+    return text;
 }
 
 } // namespace brooklet

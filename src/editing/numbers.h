@@ -34,4 +34,9 @@ double roundHalfEven(double value, int decimals);
 // that cannot continue the number. A text that begins with no number is worth 0.
 double leadingNumber(const std::string& text);
 
+// A number as plain text, without leading blank: a double in up to 15 significant digits, a
+// single in as few digits as give the value back.
+std::string NumberText(double value);
+std::string NumberText(float value);
+
 } // namespace brooklet

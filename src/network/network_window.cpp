@@ -98,6 +98,33 @@ void NetworkWindow::addAlternateLabels() {
     addRow(lblStatic(1), {lblStatic(2)});
 }
 
+void NetworkWindow::showAlternateName() {
+    if (!alternateMode())
+        return;
+    const TextTable& names = context.watershed.AlternateNames;
+    lblStatic(2)->setText(fromBytes(names(1, std::min(context.CurrentAlternate, names.rows()))));
+    lblStatic(1)->show();
+    lblStatic(2)->show();
+}
+
+void NetworkWindow::addReturnButtons(const QString& deleteCaption,
+                                     std::initializer_list<QPushButton*> others) {
+    cmdDelCur = new QPushButton(deleteCaption, this);
+    nameControl(cmdDelCur, "cmdDelCur", deleteCaption.simplified());
+    cmdFinished = new QPushButton("Return to Sub-Area", this);
+    nameControl(cmdFinished, "cmdFinished", "Return to Sub-Area");
+    connect(cmdDelCur, &QPushButton::clicked, this, &NetworkWindow::deleteCurrent);
+    connect(cmdFinished, &QPushButton::clicked, this, &NetworkWindow::acceptChanges);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdDelCur);
+    for (QPushButton* other : others)
+        buttons->addWidget(other);
+    buttons->addStretch();
+    buttons->addWidget(cmdFinished);
+    auto* outer = static_cast<QVBoxLayout*>(layout());
+    outer->insertLayout(outer->indexOf(txtHelp), buttons);
+}
+
 void NetworkWindow::addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
                                       const QString& finishedCaption) {
     cmdDelCur = makeButton("cmdDelCur", deleteCaption);

@@ -46,6 +46,11 @@ protected:
     QGroupBox* addCodeGroup(int group, const QString& accessibleName);
     // lblStatic(1) "Alternate" and lblStatic(2) with the alternate's name, shown in alternate mode.
     void addAlternateLabels();
+    // In alternate mode, lblStatic(2) takes the alternate's name and both labels show.
+    void showAlternateName();
+    // The calculators' buttons: cmdDelCur and any further buttons on the left, cmdFinished
+    // "Return to Sub-Area" on the right, the help box below them.
+    void addReturnButtons(const QString& deleteCaption, std::initializer_list<QPushButton*> others = {});
     // cmdDelCur, cmdCancel and cmdFinished in a row, with the help box below them.
     void addCommandButtons(const QString& deleteCaption, const QString& cancelCaption,
                            const QString& finishedCaption);

@@ -71,10 +71,7 @@ void frmSubArea::setDefaults() {
     resetSubAreaTables(tables);
     if (!alternateMode())
         return;
-    lblStatic(2)->setText(fromBytes(
-        tables.AlternateNames(1, std::min(context.CurrentAlternate, tables.AlternateNames.rows()))));
-    lblStatic(1)->show();
-    lblStatic(2)->show();
+    showAlternateName();
     loadSubAreasFromAlternate(tables, context.CurrentAlternate);
 }
 

@@ -146,22 +146,6 @@ void ScaleAxis(double& Low, double& High, double& Ticks) {
     High = NewHigh;
 }
 
-std::string NumberText(double value) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%.15g", value == 0.0 ? 0.0 : value);
-    return text;
-}
-
-std::string NumberText(float value) {
-    char text[40];
-    for (int digits = 6; digits <= 9; ++digits) {
-        std::snprintf(text, sizeof text, "%.*g", digits, double(value == 0.0f ? 0.0f : value));
-        if (std::strtof(text, nullptr) == value)
-            break;
-    }
-    return text;
-}
-
 std::string AxisLabel(double V) {
     const double rounded = V >= 1 ? roundHalfEven(V, 2) : roundHalfEven(V, 5);
     const std::string text = NumberText(rounded);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "editing/colours.h"
+#include "editing/numbers.h"
 #include "editing/plot_data.h"
 
 namespace brooklet {
@@ -31,9 +32,6 @@ void ScaleAxis(double& Low, double& High, double& Ticks);
 // An axis label: rounded to 2 decimals from 1 up, to 5 below, as plain number text with one
 // leading blank when it is not negative.
 std::string AxisLabel(double V);
-// A number as plain text, without leading blank, in as few digits as give the value back.
-std::string NumberText(double value);
-std::string NumberText(float value);
 
 // The plotting box and the axis limits.
 struct PlotFrame {
