@@ -125,6 +125,31 @@ TEST_F(PlotToolsTest, AZoomBoxDrawnWithTheMouseBecomesTheLimitsWidenedToRoundVal
     EXPECT_EQ(pic->cursor().shape(), Qt::ArrowCursor);
 }
 
+// Black pixels of one row of the surface as it shows, from x0 to x1.
+int blackInRow(QWidget* surface, int y, int x0, int x1) {
+    const QImage shown = surface->grab().toImage();
+    int black = 0;
+    for (int x = x0; x <= x1; ++x)
+        black += shown.pixelColor(x, y) == QColor(Qt::black);
+    return black;
+}
+
+TEST_F(PlotToolsTest, TheRubberBoxShowsWhileDraggedAndGoesAtRelease) {
+    const int before = blackInRow(pic, 150, 200, 400);
+    const int beforeAt200 = blackInRow(pic, 200, 210, 290);
+    tool("ZoomIn");
+    QTest::mousePress(pic, Qt::LeftButton, Qt::NoModifier, {200, 300});
+    QTest::mouseMove(pic, {300, 200});
+    // The first move only starts the drag; the box shows from the next.
+    EXPECT_EQ(blackInRow(pic, 200, 210, 290), beforeAt200);
+    QTest::mouseMove(pic, {400, 150});
+    // Its top side is a dotted line across the 200 pixels.
+    EXPECT_GT(blackInRow(pic, 150, 200, 400), before + 50);
+    QTest::mouseRelease(pic, Qt::LeftButton, Qt::NoModifier, {400, 150});
+    pic->repaint();
+    EXPECT_LT(blackInRow(pic, 150, 200, 400), 50);
+}
+
 TEST_F(PlotToolsTest, AZoomBoxReleasedLeftOfAndAboveItsStartIsPutInOrder) {
     tool("ZoomIn");
     drag({{400, 100}, {300, 200}, {200, 300}});
@@ -330,6 +355,30 @@ TEST_F(PlotToolsTest, PrintPutsThePlotOnThePresentPrinterAtTheTopLeft) {
     EXPECT_TRUE(job.ended);
     // The page window was made unseen and is gone.
     EXPECT_EQ(window->findChild<QWidget*>("frmGraphPP"), nullptr);
+}
+
+// A help window that closes itself once shown, noting whether it was modal.
+class HelpStandIn : public QWidget {
+public:
+    static inline bool wasModal = false;
+
+protected:
+    void showEvent(QShowEvent*) override {
+        wasModal = isModal();
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    }
+};
+
+TEST_F(PlotToolsTest, HelpOpensOverTheWindowModally) {
+    for (const char* name : {"frmOverview", "frmHelpFac", "frmAbout"})
+        context->windows.registerWindow(name, [](AppContext&) { return new HelpStandIn; });
+    HelpStandIn::wasModal = false;
+    control<QAction>(window, "about")->trigger();
+    EXPECT_TRUE(HelpStandIn::wasModal);
+    control<QAction>(window, "contents")->trigger();
+    control<QAction>(window, "index")->trigger();
+    const QStringList shown = context->windows.shownNames();
+    EXPECT_EQ(shown.mid(shown.size() - 3), QStringList({"frmAbout", "frmOverview", "frmHelpFac"}));
 }
 
 // Notes what the preview window shows when it opens, then closes it as the user would.
