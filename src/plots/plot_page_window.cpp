@@ -20,7 +20,7 @@ frmGraphPP::frmGraphPP(AppContext& context, QWidget* parent)
     mnuExit->setObjectName("mnuExit");
     connect(mnuExit, &QAction::triggered, this, &QWidget::close);
     auto* page = new QWidget(this);
-    page->setObjectName("page");
+    nameControl(page, "page", "Page");
     page->setAutoFillBackground(true);
     setBackground(page, {255, 255, 255});
     GraphicsPicture = new QLabel(page);
