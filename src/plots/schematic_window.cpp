@@ -2,6 +2,7 @@
 
 #include "editing/numbers.h"
 #include "editing/widgets.h"
+#include "plots/picture_export.h"
 #include "plots/print_dialog.h"
 #include "plots/schematic_drawing.h"
 #include "session/app_context.h"
@@ -9,15 +10,11 @@
 #include "session/section_table.h"
 #include "session/text_file.h"
 
-#include <QBuffer>
 #include <QHelpEvent>
 #include <QImage>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPixmap>
-#include <QSvgGenerator>
 #include <QToolBar>
 #include <QToolTip>
 
@@ -238,26 +235,6 @@ std::optional<std::pair<DrawingPoint, DrawingPoint>> frmTopoModel::zoomBox() con
     return std::make_pair(start_, last_);
 }
 
-namespace {
-
-// The cursor of a zoom tool: a magnifier with a plus or a minus.
-QCursor zoomCursor(bool in) {
-    QPixmap picture(32, 32);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, 2));
-    painter.setBrush(Qt::white);
-    painter.drawEllipse(QRectF(2, 2, 18, 18));
-    painter.drawLine(QPointF(17, 17), QPointF(29, 29));
-    painter.drawLine(QPointF(6, 11), QPointF(16, 11));
-    if (in)
-        painter.drawLine(QPointF(11, 6), QPointF(11, 16));
-    return QCursor(picture, 11, 11);
-}
-
-} // namespace
-
 void frmTopoModel::toolClicked(const QString& key) {
     if (key == "Frame") {
         FitView();
@@ -265,7 +242,7 @@ void frmTopoModel::toolClicked(const QString& key) {
         ZoomArmed = -1;
         ZoomMode = key == "ZoomIn" ? 1 : 2;
         PanOn = DragOn = 0;
-        TopoPic->setCursor(zoomCursor(ZoomMode == 1));
+        TopoPic->setCursor(ZoomCursor(ZoomMode == 1));
     } else if (key == "Pan") {
         PanOn = 1;
         ZoomArmed = ZoomMode = DragOn = 0;
@@ -361,9 +338,7 @@ void frmTopoModel::copySchematic() {
 }
 
 void frmTopoModel::CopySchematic() {
-    const Bitmap picture = fromQImage(surfaceImage(background_));
-    context_.platform.clearClipboard();
-    context_.platform.setClipboardBitmap(picture);
+    CopyPictureToClipboard(context_.platform, surfaceImage(background_));
 }
 
 // The schematic goes to the present printer as the picture a copy takes, after a blank line.
@@ -389,56 +364,27 @@ void frmTopoModel::printSchematic() {
 }
 namespace {
 
-enum class ExportFormat { Png, Svg, Pdf };
-
 // The format by the file's extension; a name without one of the three becomes a PNG file.
-ExportFormat exportFormat(std::string& path) {
-    const std::string name = toUpper(path);
-    auto endsWith = [&name](const char* extension) {
-        const std::string end(extension);
-        return name.size() >= end.size() && name.compare(name.size() - end.size(), end.size(), end) == 0;
-    };
-    if (endsWith(".SVG"))
-        return ExportFormat::Svg;
-    if (endsWith(".PDF"))
-        return ExportFormat::Pdf;
-    if (!endsWith(".PNG"))
+PictureFormat exportFormat(std::string& path) {
+    const std::optional<PictureFormat> format = PictureFormatOf(path);
+    if (format == PictureFormat::Svg || format == PictureFormat::Pdf)
+        return *format;
+    if (format != PictureFormat::Png)
         path += ".png";
-    return ExportFormat::Png;
+    return PictureFormat::Png;
 }
 
 } // namespace
 
 QByteArray frmTopoModel::exportBytes(const std::string& path) const {
     std::string name = path;
-    const ExportFormat format = exportFormat(name);
-    const QSize size = TopoPic->size();
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (format == ExportFormat::Png) {
-        surfaceImage(CopyBackground).save(&buffer, "PNG");
-        return buffer.data();
-    }
+    const PictureFormat format = exportFormat(name);
+    if (format == PictureFormat::Png)
+        return ImageFileBytes(surfaceImage(CopyBackground), format);
     const QString title = windowTitle() + " - " + pathToQt(context_.session.CurrentFile);
-    if (format == ExportFormat::Svg) {
-        QSvgGenerator svg;
-        svg.setOutputDevice(&buffer);
-        svg.setSize(size);
-        svg.setViewBox(QRect(QPoint(0, 0), size));
-        svg.setResolution(96);
-        svg.setTitle(title);
-        QPainter painter(&svg);
+    return DrawingFileBytes(format, TopoPic->size(), title, [this](QPainter& painter) {
         drawSchematic(painter, schematic_, schematic_.scale(), CopyBackground, windowWidthTwips());
-    } else {
-        QPdfWriter pdf(&buffer);
-        pdf.setResolution(96);
-        pdf.setPageSize(QPageSize(QSizeF(size) * 72.0 / 96.0, QPageSize::Point));
-        pdf.setPageMargins(QMarginsF(0, 0, 0, 0));
-        pdf.setTitle(title);
-        QPainter painter(&pdf);
-        drawSchematic(painter, schematic_, schematic_.scale(), CopyBackground, windowWidthTwips());
-    }
-    return buffer.data();
+    });
 }
 
 // Save As: the schematic as it stands in the window, as a PNG picture or as an SVG or PDF

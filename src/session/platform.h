@@ -25,6 +25,9 @@ struct FileDialogSettings {
     bool ConfirmOverwrite = false;
     // Added, with its point, to a file name typed without an extension ("inp").
     std::string DefaultExtension;
+    // A name typed without an extension takes the extension of the filter chosen in the dialog
+    // when its pattern names one ("*.bmp"), before DefaultExtension applies.
+    bool FilterExtension = false;
 };
 
 // The printer dialog's settings. Flags carry the options asked for on the way in and the

@@ -106,7 +106,12 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
         dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return WithDefaultExtension(pathFromQt(dialog.selectedFiles().first()), settings.DefaultExtension);
+    std::string path = pathFromQt(dialog.selectedFiles().first());
+    if (settings.FilterExtension)
+        path = WithDefaultExtension(
+            path,
+            FilterPatternExtension(settings.Filter, int(filters.indexOf(dialog.selectedNameFilter())) + 1));
+    return WithDefaultExtension(path, settings.DefaultExtension);
 }
 
 } // namespace

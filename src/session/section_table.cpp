@@ -3,6 +3,8 @@
 #include "base/text.h"
 #include "session/text_file.h"
 
+#include <vector>
+
 namespace brooklet {
 namespace {
 
@@ -100,6 +102,23 @@ std::string WithDefaultExtension(const std::string& Path, const std::string& ext
     if (extension.empty() || BaseName(Path) != Path + ".")
         return Path;
     return Path + "." + extension;
+}
+
+std::string FilterPatternExtension(const std::string& Filter, int Index) {
+    std::vector<std::string> parts;
+    size_t from = 0;
+    for (size_t bar = Filter.find('|'); bar != std::string::npos; bar = Filter.find('|', from)) {
+        parts.push_back(Filter.substr(from, bar - from));
+        from = bar + 1;
+    }
+    parts.push_back(Filter.substr(from));
+    const size_t pattern = size_t(Index) * 2 - 1;
+    if (Index < 1 || pattern >= parts.size())
+        return {};
+    const std::string& text = parts[pattern];
+    if (text.rfind("*.", 0) != 0 || text.find_first_of("*?;", 2) != std::string::npos)
+        return {};
+    return text.substr(2);
 }
 
 std::optional<std::string> DeleteResultFiles(const std::string& File) {

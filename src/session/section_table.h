@@ -107,6 +107,9 @@ std::string BaseName(const std::string& Path);
 // The path with "." and the extension added when its file name has no extension, as a file
 // dialog does when the user types a bare name.
 std::string WithDefaultExtension(const std::string& Path, const std::string& extension);
+// The extension that filter number Index (from 1) of a dialog's filter names: "bmp" for
+// "Bitmap Files (*.bmp)|*.bmp"; empty for "*.*", a pattern of several or no such filter.
+std::string FilterPatternExtension(const std::string& Filter, int Index);
 // Deletes what a run of the model on File left beside it: the printed page, hydrograph, Tally,
 // error and debug files. The first of them that is still there afterwards, if any.
 std::optional<std::string> DeleteResultFiles(const std::string& File);

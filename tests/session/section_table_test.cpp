@@ -109,6 +109,17 @@ TEST(WithDefaultExtension, IsAddedOnlyToANameWithoutExtension) {
     EXPECT_EQ(WithDefaultExtension("/data/shed", ""), "/data/shed");
 }
 
+TEST(FilterPatternExtension, IsTheExtensionOfTheChosenFiltersSinglePattern) {
+    const std::string filter = "All Files (*.*)|*.*|Bitmap Files (*.bmp)|*.bmp|Pictures|*.png;*.jpg";
+    EXPECT_EQ(FilterPatternExtension(filter, 2), "bmp");
+    EXPECT_EQ(FilterPatternExtension(filter, 1), "");
+    EXPECT_EQ(FilterPatternExtension(filter, 3), "");
+    EXPECT_EQ(FilterPatternExtension(filter, 4), "");
+    EXPECT_EQ(FilterPatternExtension(filter, 0), "");
+    EXPECT_EQ(FilterPatternExtension("", 1), "");
+    EXPECT_EQ(FilterPatternExtension("Broken|", 1), "");
+}
+
 TEST(BaseName, ANameWithNoPointGetsOne) {
     EXPECT_EQ(BaseName("/data/watershed"), "/data/watershed.");
     EXPECT_EQ(BaseName(""), ".");

@@ -42,6 +42,13 @@ std::optional<std::string> ScriptedPlatform::showOpenDialog(const FileDialogSett
 std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSettings& dialog) {
     saveDialogs.push_back(dialog);
     auto pick = nextPick(savePicks, "save");
+    int filter = dialog.FilterIndex;
+    if (!saveFilterPicks.empty()) {
+        filter = saveFilterPicks.front();
+        saveFilterPicks.pop_front();
+    }
+    if (pick && dialog.FilterExtension)
+        *pick = WithDefaultExtension(*pick, FilterPatternExtension(dialog.Filter, filter));
     // A save dialog that confirms overwrites asks, as the platform's dialog does, before it
     // returns a file that exists; No leaves the dialog with no file.
     if (pick && dialog.ConfirmOverwrite) {

@@ -47,6 +47,8 @@ public:
     // Files chosen in the open and save dialogs; nothing for Cancel.
     std::deque<std::optional<std::string>> openPicks;
     std::deque<std::optional<std::string>> savePicks;
+    // The filter chosen in each save dialog, from 1; the dialog's own FilterIndex when none.
+    std::deque<int> saveFilterPicks;
 
     // The flags the printer dialog returns, in order; nothing for Cancel.
     std::deque<std::optional<int>> printerAnswers;
