@@ -14,6 +14,7 @@
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/alternate_editor.h"
 #include "tables/cross_section_editor.h"
 #include "tables/storm_editor.h"
 #include "tables/structure_rating_editor.h"
@@ -47,6 +48,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmIO_Plots", [](AppContext& context) { return new frmIO_Plots(context); });
     windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
     windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
+    windows.registerWindow("frmAlternate", [](AppContext& context) { return new frmAlternate(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
 }
 
