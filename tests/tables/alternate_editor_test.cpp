@@ -414,5 +414,95 @@ TEST_F(AlternateEditorTest, TheHelpCodeReturnsWhenTheWindowIsActivatedAgain) {
     EXPECT_EQ(session().HelpCode, "AA");
 }
 
+// ---- The whole road ---------------------------------------------------------------------------
+
+class AlternateRoadTest : public AlternateEditorTest {
+protected:
+    // The example watershed, opened through File, "Open Existing Brooklet File".
+    void openFile(const std::string& path) {
+        platform.openPicks.push_back(path);
+        clickMenuItem("mnuFileItem(2)");
+        EXPECT_EQ(session().CurrentFile, path);
+        context->windows.unload("frmFlume");
+    }
+    // Types into a list of the sub-area or reach window and leaves it with Tab.
+    void enterList(QWidget* editor, int index, const QString& text) {
+        auto* list = control<QComboBox>(editor, indexedName("cmbInp", index));
+        list->setFocus(Qt::MouseFocusReason);
+        list->setEditText(QString());
+        QTest::keyClicks(list, text);
+        QTest::keyClick(list, Qt::Key_Tab);
+    }
+    void enterBox(QWidget* editor, int index, const QString& text) {
+        auto* field = control<QLineEdit>(editor, indexedName("txtInp", index));
+        field->setFocus(Qt::MouseFocusReason);
+        QTest::keyClicks(field, text);
+        QTest::keyClick(field, Qt::Key_Tab);
+    }
+};
+
+TEST_F(AlternateRoadTest, AnAlternateAddedThroughTheWindowsIsSavedAndComesBack) {
+    const std::string path = folder.file("watershed.inp");
+    writeBytes(path, bytesOf(std::string(BROOKLET_EXAMPLES_DIR) + "/watershed.inp"));
+    std::string expected = bytesOf(path);
+    openFile(path);
+    open();
+    choose("WIDEN");
+    QTest::keyClicks(box(2), "Lower valley channel widened");
+    QTest::keyClick(box(2), Qt::Key_Return);
+
+    clickList(1, -1);
+    auto* subAreas = opened<frmSubArea>("frmSubArea");
+    ASSERT_NE(subAreas, nullptr);
+    enterList(subAreas, 1, "LOWER-1");
+    enterList(subAreas, 2, "LOWERMAIN");
+    enterList(subAreas, 3, "SOUTHGAGE");
+    enterBox(subAreas, 4, "0.95");
+    enterBox(subAreas, 5, "80");
+    enterBox(subAreas, 6, "0.5");
+    click(control<QPushButton>(subAreas, "cmdFinished"));
+    EXPECT_EQ(items(1), (Lines{"LOWER-1"}));
+
+    clickList(2, -1);
+    auto* reaches = opened<frmReaches>("frmReaches");
+    ASSERT_NE(reaches, nullptr);
+    enterList(reaches, 1, "MILLRUN");
+    enterList(reaches, 2, "LOWERMAIN");
+    enterList(reaches, 3, "XS-LOWER");
+    enterBox(reaches, 5, "2400");
+    enterBox(reaches, 6, "2800");
+    click(control<QPushButton>(reaches, "cmdFinished"));
+    EXPECT_EQ(items(2), (Lines{"MILLRUN"}));
+
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_TRUE(session().DataChanged);
+    clickMenuItem("mnuFileItem(14)");
+    EXPECT_FALSE(session().DataChanged);
+
+    const std::string buildout =
+        "          LOWER-2   LOWERMAIN SOUTHGAGE 0.58      86.       0.40      YYYNY\r\n";
+    const size_t at = expected.find(buildout);
+    ASSERT_NE(at, std::string::npos);
+    expected.insert(
+        at + buildout.size(),
+        crlf({alternateRecord("WIDEN", "Lower valley channel widened"), Reaches,
+              tens({"", "MILLRUN", "LOWERMAIN", "XS-LOWER", "", "2400.", "2800."}) + std::string(6, ' '),
+              Areas,
+              tens({"", "LOWER-1", "LOWERMAIN", "SOUTHGAGE", "0.95", "80.", "0.5"}) + std::string(5, ' ')}));
+    EXPECT_EQ(bytesOf(path), expected);
+
+    openFile(path);
+    open();
+    EXPECT_EQ(comboItems(), (Lines{"BUILDOUT", "WIDEN"}));
+    choose("WIDEN");
+    EXPECT_EQ(box(2)->text(), "Lower valley channel widened");
+    EXPECT_EQ(items(1), (Lines{pad("LOWER-1")}));
+    EXPECT_EQ(items(2), (Lines{pad("MILLRUN")}));
+    choose("BUILDOUT");
+    EXPECT_EQ(items(1), (Lines{pad("LOWER-1"), pad("LOWER-2")}));
+    EXPECT_EQ(items(2), (Lines{pad("MILLRUN")}));
+}
+
 } // namespace
 } // namespace brooklet::test
