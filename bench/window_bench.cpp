@@ -26,6 +26,7 @@
 #include <QKeyEvent>
 #include <QTableWidget>
 #include "network/sub_area_editor.h"
+#include "tables/alternate_editor.h"
 
 #include <QComboBox>
 
@@ -326,6 +327,47 @@ VALUE_WINDOW_BENCHMARK(InpHydAccepts, "frmInpHyd", InputHydrographSection, 3);
 VALUE_WINDOW_BENCHMARK(DimHydOpensAndShows, "frmDimHyd", UnitHydrographSection, 0);
 VALUE_WINDOW_BENCHMARK(DimHydTypes, "frmDimHyd", UnitHydrographSection, 2);
 VALUE_WINDOW_BENCHMARK(DimHydAccepts, "frmDimHyd", UnitHydrographSection, 3);
+// The alternate window on 10 alternates of 500 sub-areas (each with a sheet flow and a land
+// use record) and 500 reaches (each with a base flow): load, the last alternate chosen, which
+// fills both lists, and Accept writing the work file.
+void AlternateWindowOpensChoosesAndAccepts(benchmark::State& state) {
+    LargeSession session(10);
+    auto ten = [](const std::string& text) {
+        return text + std::string(10 - std::min<size_t>(10, text.size()), ' ');
+    };
+    std::string file = "ALTERNATE ANALYSIS:\r\n";
+    for (int alternate = 1; alternate <= 10; ++alternate) {
+        file += ten("ALT" + std::to_string(alternate)) + "Generated variant of the watershed\r\n";
+        file += "          REACHES\r\n";
+        for (int reach = 1; reach <= 500; ++reach) {
+            file += ten("") + ten("R" + std::to_string(reach)) + ten("R" + std::to_string(reach + 1)) +
+                    ten("XS1") + ten("") + ten("1200.") + ten("1300.") + "YNYNYN\r\n";
+            file += ten("") + ten("") + ten("BASE FLOW") + ten("2.5") + "\r\n";
+        }
+        file += "          AREAS\r\n";
+        for (int area = 1; area <= 500; ++area) {
+            file += ten("") + ten("A" + std::to_string(area)) + ten("R" + std::to_string(area)) + ten("G1") +
+                    ten("") + ten("") + ten("") + "YNYNY\r\n";
+            file += ten("") + ten("") + ten("SHEET") + ten("100.") + ten("0.02") + ten("0.24") + ten("F") +
+                    "\r\n";
+            file += ten("") + ten("") + ten("LAND AREA") + "Meadow" + std::string(29, ' ') + "B    0.5\r\n";
+        }
+    }
+    file += "\r\n";
+    const std::string& workFile = session.context.session.WorkFilePath[AlternateSection];
+    for (auto _ : state) {
+        state.PauseTiming();
+        writeFileAtomically(workFile, file);
+        state.ResumeTiming();
+        QWidget* window = session.context.windows.ShowWindowAtOrigin("frmAlternate");
+        auto* alternates = qobject_cast<frmAlternate*>(window);
+        window->findChild<QComboBox*>("cmbInp(1)")->setEditText("ALT10");
+        alternates->leaveIdentifier();
+        alternates->acceptChanges();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+BENCHMARK(AlternateWindowOpensChoosesAndAccepts)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace brooklet::bench

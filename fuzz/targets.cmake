@@ -8,3 +8,4 @@ brooklet_fuzz_target(fuzz_value_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_value_se
 brooklet_fuzz_target(fuzz_network ${CMAKE_CURRENT_LIST_DIR}/fuzz_network.cpp)
 brooklet_fuzz_target(fuzz_rating_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_rating_sections.cpp)
 brooklet_fuzz_target(fuzz_output_reader ${CMAKE_CURRENT_LIST_DIR}/fuzz_output_reader.cpp)
+brooklet_fuzz_target(fuzz_alternate_section ${CMAKE_CURRENT_LIST_DIR}/fuzz_alternate_section.cpp)

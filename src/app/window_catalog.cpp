@@ -16,6 +16,7 @@
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
 #include "session/window_host.h"
+#include "tables/alternate_editor.h"
 #include "tables/cross_section_editor.h"
 #include "tables/input_hydrograph_editor.h"
 #include "tables/rainfall_distribution_editor.h"
@@ -57,6 +58,7 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmRainDist", [](AppContext& context) { return new frmRainDist(context); });
     windows.registerWindow("frmInpHyd", [](AppContext& context) { return new frmInpHyd(context); });
     windows.registerWindow("frmDimHyd", [](AppContext& context) { return new frmDimHyd(context); });
+    windows.registerWindow("frmAlternate", [](AppContext& context) { return new frmAlternate(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
 }
 

@@ -94,9 +94,13 @@ void PadField(int Width, std::string& Text) {
 }
 
 std::string FieldAt(const std::string& Record, int FirstColumn, int Width) {
+    return trim(FieldAsItStands(Record, FirstColumn, Width));
+}
+
+std::string FieldAsItStands(const std::string& Record, int FirstColumn, int Width) {
     const size_t start = static_cast<size_t>(FirstColumn - 1);
     if (FirstColumn < 1 || Width <= 0 || start >= Record.size()) return {};
-    return trim(Record.substr(start, static_cast<size_t>(Width)));
+    return Record.substr(start, static_cast<size_t>(Width));
 }
 
 } // namespace brooklet

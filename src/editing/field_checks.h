@@ -25,6 +25,8 @@ void PadField(int Width, std::string& Text);
 // The trimmed text of a fixed-column field, columns counted from 1; empty when the record
 // is shorter than the first column.
 std::string FieldAt(const std::string& Record, int FirstColumn, int Width);
+// The same columns as they stand, blanks included; shorter when the record ends within them.
+std::string FieldAsItStands(const std::string& Record, int FirstColumn, int Width);
 
 // A three-dimensional table with bounds 1..N1, 1..N2, 1..N3.
 template <typename T> class Array3D {

@@ -352,6 +352,48 @@ int alternateLandUseLast(const WatershedTables& tables, int alternate, int entry
         leadingNumber(tables.AlternateSubAreas(AlternateLandUseLastField, alternate, entry)));
 }
 
+int findAlternate(const WatershedTables& tables, const std::string& name) {
+    const std::string wanted = toUpper(trim(name));
+    for (int alternate = 1; alternate <= tables.AlternateCount; ++alternate)
+        if (toUpper(trim(tables.AlternateNames(1, alternate))) == wanted)
+            return alternate;
+    return 0;
+}
+
+int findAlternateEntry(const WatershedTables& tables, int alternate, int Kind, const std::string& text,
+                       bool ignoreCase) {
+    if (!validAlternate(tables, alternate))
+        return 0;
+    const auto key = [ignoreCase](const std::string& name) {
+        return ignoreCase ? toUpper(trim(name)) : trim(name);
+    };
+    const std::string wanted = key(text);
+    const TextArray3D& store = Kind == 1 ? tables.AlternateSubAreas : tables.AlternateReaches;
+    const int count = Kind == 1 ? tables.AlternateSubAreaCount[size_t(alternate)]
+                                : tables.AlternateReachCount[size_t(alternate)];
+    for (int row = count; row >= 1; --row)
+        if (key(store(1, alternate, row)) == wanted)
+            return row;
+    return 0;
+}
+
+void deleteAlternateEntry(WatershedTables& tables, int alternate, int Kind, int row) {
+    if (!validAlternate(tables, alternate))
+        return;
+    TextArray3D& store = Kind == 1 ? tables.AlternateSubAreas : tables.AlternateReaches;
+    int& count = Kind == 1 ? tables.AlternateSubAreaCount[size_t(alternate)]
+                           : tables.AlternateReachCount[size_t(alternate)];
+    if (row < 1 || row > count)
+        return;
+    --count;
+    if (count <= 0)
+        return;
+    const int lastMoved = Kind == 1 ? count : tables.AlternateCount;
+    for (int moved = row; moved <= lastMoved; ++moved)
+        for (int field = 1; field <= store.n1(); ++field)
+            store.set(field, alternate, moved, store(field, alternate, moved + 1));
+}
+
 void fillAlternateEntries(const WatershedTables& tables, int CurrentAlternate, int Kind, ListControl& List) {
     List.Clear();
     if (!validAlternate(tables, CurrentAlternate))

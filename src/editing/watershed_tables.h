@@ -141,6 +141,17 @@ void deleteAlternate(WatershedTables& tables, int alternate);
 int alternateLandUseFirst(const WatershedTables& tables, int alternate, int entry);
 int alternateLandUseLast(const WatershedTables& tables, int alternate, int entry);
 
+// The first alternate whose name is Name, both trimmed and case not counting; 0 for none.
+int findAlternate(const WatershedTables& tables, const std::string& name);
+// The last sub-area entry (Kind 1) or reach entry (any other Kind) of the alternate whose
+// trimmed field 1 is the trimmed Text; with IgnoreCase, case not counting. 0 for none.
+int findAlternateEntry(const WatershedTables& tables, int alternate, int Kind, const std::string& text,
+                       bool ignoreCase);
+// Removes an entry from an alternate: its count falls by one. Later sub-area entries close the
+// gap, land use positions with them. Reach rows move up one place only as far as the number of
+// alternates, as the alternate window has always done: rows behind that stay where they were.
+void deleteAlternateEntry(WatershedTables& tables, int alternate, int Kind, int row);
+
 // The list of an alternate's entries as the alternate window shows them: cleared, then
 // field 1 of every sub-area entry (Kind 1) or every reach entry (any other Kind), in order.
 void fillAlternateEntries(const WatershedTables& tables, int CurrentAlternate, int Kind, ListControl& List);

@@ -31,12 +31,6 @@ void writeFields(std::string& record, const TextTable& table, int row, int first
         AppendField(record, table(field, row), FieldWidth, point);
 }
 
-// The ten columns from First as they stand, blanks included.
-std::string untrimmed(const std::string& line, int first) {
-    const size_t start = size_t(first - 1);
-    return start < line.size() ? line.substr(start, FieldWidth) : std::string();
-}
-
 } // namespace
 
 void ReadReachSection(const std::vector<std::string>& lines, TextTable& ReachTable, int& ReachCount) {
@@ -65,8 +59,8 @@ void ReadReachSection(const std::vector<std::string>& lines, TextTable& ReachTab
             for (int field = FirstSplitField; field <= LastSplitField; ++field)
                 ReachTable(field, row) = FieldAt(line, 31 + 10 * (field - FirstSplitField), FieldWidth);
         } else if (keyword == "REACH LOSS") {
-            ReachTable(FirstLossField, row) = untrimmed(line, 31);
-            ReachTable(LastLossField, row) = untrimmed(line, 41);
+            ReachTable(FirstLossField, row) = FieldAsItStands(line, 31, FieldWidth);
+            ReachTable(LastLossField, row) = FieldAsItStands(line, 41, FieldWidth);
         }
     }
 }
