@@ -10,6 +10,7 @@
 #include "options/identifier_editor.h"
 #include "options/time_analysis_editor.h"
 #include "options/verification_editor.h"
+#include "plots/graphics_output_window.h"
 #include "plots/plot_window.h"
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
@@ -48,6 +49,8 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmStruct", [](AppContext& context) { return new frmStruct(context); });
     windows.registerWindow("frmXsect", [](AppContext& context) { return new frmXsect(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
+    windows.registerWindow("frmGraphicsOutput",
+                           [](AppContext& context) { return new frmGraphicsOutput(context); });
 }
 
 } // namespace brooklet
