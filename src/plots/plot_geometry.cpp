@@ -567,11 +567,14 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
         for (int p = 1; p <= count; ++p) {
             float x = f.ToPlotX(plot.PlotX.get(xs, p));
             float y = f.ToPlotY(plot.PlotY.get(i, p));
-            if (view.plotpoints && f.withinWidth(x) && f.withinHeight(y))
+            const bool inside = f.withinWidth(x) && f.withinHeight(y);
+            if (view.plotpoints && inside)
                 stroke.markers.push_back({x, y});
             if (view.plotlines && p >= 2) {
                 const float startX = px, startY = py;
-                if (ClipSegment(f, x, y, px, py)) {
+                // A segment with both ends in the box is drawn as it is, as the clipping finds.
+                const bool bothInside = inside && f.withinWidth(px) && f.withinHeight(py);
+                if (bothInside || ClipSegment(f, x, y, px, py)) {
                     if (!joined || px != startX || py != startY) {
                         stroke.runs.emplace_back();
                         if (stroke.runs.size() == 1)

@@ -193,21 +193,20 @@ void PaintPlot(QPainter& painter, const PlotDrawing& drawing) {
         paintMarkers(painter, series.markers, series.shape, PlotMarkerFactor);
         painter.setPen(linePen(series.colour, 4, false));
         for (const auto& run : series.runs) {
-            // The line is four pixels wide: points on the pixel of the point last taken, or on
-            // one of its neighbours, add nothing to it that shows.
+            // The line is four pixels wide: a point within a pixel of the point last taken adds
+            // nothing to it that shows.
             QPolygonF line;
             line.reserve(qsizetype(std::min<size_t>(run.size(), 1 << 16)));
-            QPoint last;
+            QPointF last;
             for (size_t i = 0; i < run.size(); ++i) {
                 if (!finite(run[i]))
                     continue;
-                const QPoint pixel = map.pixel(run[i]);
-                const QPoint step = pixel - last;
-                if (!line.isEmpty() && std::abs(step.x()) <= 1 && std::abs(step.y()) <= 1 &&
-                    i + 1 < run.size())
+                const QPointF onDevice = map(run[i]);
+                if (!line.isEmpty() && std::abs(onDevice.x() - last.x()) <= 1.0 &&
+                    std::abs(onDevice.y() - last.y()) <= 1.0 && i + 1 < run.size())
                     continue;
                 line << QPointF(run[i].x, run[i].y);
-                last = pixel;
+                last = onDevice;
             }
             painter.drawPolyline(line);
         }
