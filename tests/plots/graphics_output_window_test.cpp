@@ -116,6 +116,12 @@ protected:
         list(i)->setFocus(Qt::OtherFocusReason);
         QTest::keyClick(list(i), Qt::Key_Tab);
     }
+    // Display pressed, and the request the plot window was handed.
+    const PlotData& displayedPlot() {
+        click(display());
+        EXPECT_EQ(PlotStandIn::opened, 1);
+        return PlotStandIn::plot;
+    }
     QStringList entries() {
         QStringList items;
         for (int i = 0; i < multiple()->count(); ++i)
@@ -279,9 +285,7 @@ TEST_F(GraphicsOutputTest, AReachListsNothingUntilAnEndIsClickedAndBothEndsMakeT
     click(option("Opt6", 2));
     EXPECT_EQ(entries(), QStringList({"R-1 - Upstream", "R-1 - Downstream"}));
     ASSERT_TRUE(display()->isEnabled());
-    click(display());
-    ASSERT_EQ(PlotStandIn::opened, 1);
-    const PlotData& plot = PlotStandIn::plot;
+    const PlotData& plot = displayedPlot();
     EXPECT_EQ(plot.PlotKind, OutputHydrographPlot);
     ASSERT_EQ(plot.SeriesCount, 2);
     EXPECT_EQ(plot.PlotRequest[1].T[2], "100-YR");
@@ -320,9 +324,7 @@ TEST_F(GraphicsOutputTest, StormsAndAlternatesVaryInTheirColumnsAndCounts) {
     pick(3, 1);
     pick(3, 0);
     pick(5, 0);
-    click(display());
-    ASSERT_EQ(PlotStandIn::opened, 1);
-    const PlotData& plot = PlotStandIn::plot;
+    const PlotData& plot = displayedPlot();
     EXPECT_EQ(plot.MultiStormCount, 2);
     EXPECT_EQ(plot.MultiAlternateCount, 1);
     ASSERT_EQ(plot.SeriesCount, 2);
@@ -344,9 +346,7 @@ TEST_F(GraphicsOutputTest, PeakFlowsAskForUnitsAndLocationsAndRequestOneRowForEa
     click(check("Chk4(1)"));
     click(check("Chk4(3)"));
     ASSERT_TRUE(display()->isEnabled());
-    click(display());
-    ASSERT_EQ(PlotStandIn::opened, 1);
-    const PlotData& plot = PlotStandIn::plot;
+    const PlotData& plot = displayedPlot();
     EXPECT_EQ(plot.PlotKind, PeakFlowPlot);
     ASSERT_EQ(plot.SeriesCount, 2);
     EXPECT_EQ(plot.PlotRequest[1].T[3], "Subarea");
@@ -365,9 +365,7 @@ TEST_F(GraphicsOutputTest, TheTimeAnalysisOfOneLocationStartsItsCurveFromNought)
     EXPECT_FALSE(display()->isEnabled());
     pick(5, 0);
     ASSERT_TRUE(display()->isEnabled());
-    click(display());
-    ASSERT_EQ(PlotStandIn::opened, 1);
-    const PlotData& plot = PlotStandIn::plot;
+    const PlotData& plot = displayedPlot();
     EXPECT_EQ(plot.PlotKind, TimeAnalysisPlot);
     EXPECT_EQ(plot.SeriesCount, 1);
     EXPECT_EQ(plot.PlotRequest[1].T[3], "SA-1");
@@ -452,6 +450,20 @@ TEST_F(GraphicsOutputTest, AMissingPrintedPageFileGivesTheNoDataBox) {
     ASSERT_FALSE(platform.boxes.empty());
     EXPECT_EQ(platform.boxes.back().text, "No data for requested plot found");
     EXPECT_EQ(PlotStandIn::opened, 0);
+}
+
+TEST_F(GraphicsOutputTest, EveryControlHasItsOwnAccessibleName) {
+    open();
+    QStringList names;
+    for (QWidget* control : window->findChildren<QWidget*>()) {
+        if (!qobject_cast<QAbstractButton*>(control) && !qobject_cast<QComboBox*>(control) &&
+            !qobject_cast<QListWidget*>(control))
+            continue;
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
+        names << control->accessibleName();
+    }
+    EXPECT_EQ(names.size(), 22);
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(", ").toStdString();
 }
 
 TEST_F(GraphicsOutputTest, CloseUnloadsTheWindow) {
