@@ -12,6 +12,7 @@
 #include "options/identifier_editor.h"
 #include "options/time_analysis_editor.h"
 #include "options/verification_editor.h"
+#include "plots/graphics_output_window.h"
 #include "plots/plot_window.h"
 #include "plots/schematic_window.h"
 #include "run/file_viewer.h"
@@ -60,6 +61,8 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmDimHyd", [](AppContext& context) { return new frmDimHyd(context); });
     windows.registerWindow("frmAlternate", [](AppContext& context) { return new frmAlternate(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
+    windows.registerWindow("frmGraphicsOutput",
+                           [](AppContext& context) { return new frmGraphicsOutput(context); });
 }
 
 } // namespace brooklet

@@ -10,13 +10,13 @@ namespace brooklet {
 namespace {
 
 // Columns first to last of a line, counted from 1; shorter, or empty, where the line ends.
-std::string_view cols(std::string_view line, int first, int last) {
+inline std::string_view cols(std::string_view line, int first, int last) {
     if (first < 1 || size_t(first) > line.size() || last < first)
         return {};
     return line.substr(size_t(first - 1), size_t(last - first + 1));
 }
 
-std::string_view trimmed(std::string_view text) {
+inline std::string_view trimmed(std::string_view text) {
     while (!text.empty() && text.front() == ' ')
         text.remove_prefix(1);
     while (!text.empty() && text.back() == ' ')
@@ -24,8 +24,23 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-bool isBlank(std::string_view text) {
-    return trimmed(text).empty();
+// Where the first byte that is not a blank stands; the text's size when there is none.
+inline size_t firstNonBlankAt(std::string_view text) {
+    size_t at = 0;
+    while (at < text.size() && text[at] == ' ')
+        ++at;
+    return at;
+}
+
+inline bool isBlank(std::string_view text) {
+    return firstNonBlankAt(text) == text.size();
+}
+
+// The first byte of a line's columns first to last that is not a blank; 0 when there is none.
+inline char firstNonBlank(std::string_view line, int first, int last) {
+    const std::string_view text = cols(line, first, last);
+    const size_t at = firstNonBlankAt(text);
+    return at == text.size() ? '\0' : text[at];
 }
 
 char upper(char c) {
@@ -49,29 +64,36 @@ double valueOf(std::string_view text) {
     return leadingNumber(std::string(text));
 }
 
+// Text standing at a column, counted from 1, of a line. Its first byte is tried first: nearly
+// every line of a report is a line of numbers, and it is met on every line.
+inline bool textAt(std::string_view line, size_t column, std::string_view text) {
+    return line.size() >= column - 1 + text.size() && line[column - 1] == text[0] &&
+           line.compare(column - 1, text.size(), text) == 0;
+}
+
 bool isPageHeader(std::string_view line) {
-    return cols(line, 1, 8) == "Brooklet" && cols(line, 37, 40) == "Page";
+    return textAt(line, 1, "Brooklet") && textAt(line, 37, "Page");
 }
 bool isStormHeading(std::string_view line) {
-    return trimmed(cols(line, 41, 49)) == "STORM";
+    return firstNonBlank(line, 41, 49) == 'S' && trimmed(cols(line, 41, 49)) == "STORM";
 }
 bool isLocationStart(std::string_view line) {
-    return cols(line, 45, 79) == "------------ Peak Flow ------------";
+    return textAt(line, 45, "------------ Peak Flow ------------");
 }
 bool isHydrographHeading(std::string_view line) {
-    return trimmed(cols(line, 1, 80)) == "Line";
+    return firstNonBlank(line, 1, 80) == 'L' && trimmed(cols(line, 1, 80)) == "Line";
 }
 bool isOrdinateHeading(std::string_view line) {
-    return cols(line, 27, 38) == "Flow Values ";
+    return textAt(line, 27, "Flow Values ");
 }
 bool isPeakTableHeading(std::string_view line) {
-    return cols(line, 35, 76) == "----------- Peak Flow by Storm -----------";
+    return textAt(line, 35, "----------- Peak Flow by Storm -----------");
 }
 bool isStageDurationHeading(std::string_view line) {
-    return cols(line, 43, 80) == "Flow Duration @ stage above base elev.";
+    return textAt(line, 43, "Flow Duration @ stage above base elev.");
 }
 bool isDurationHeading(std::string_view line) {
-    return cols(line, 43, 78) == "Flow Duration @ selected Peak Flow %" || isStageDurationHeading(line);
+    return textAt(line, 43, "Flow Duration @ selected Peak Flow %") || isStageDurationHeading(line);
 }
 
 // The walk over the report for one request.
@@ -382,16 +404,25 @@ void OutputReport::SkipOutputLines(int Count) {
         readLine();
 }
 
-void ReadOutputText(std::string bytes, PlotData& plot, bool& Found) {
-    if (bytes.empty())
+namespace {
+
+void readReport(LineReader reader, PlotData& plot, bool& Found) {
+    if (reader.atEnd())
         return;
-    OutputReport report(std::move(bytes));
+    OutputReport report(std::move(reader));
     OutputParse(report, plot, Found).run();
 }
 
+} // namespace
+
+void ReadOutputText(std::string bytes, PlotData& plot, bool& Found) {
+    readReport(LineReader(std::move(bytes)), plot, Found);
+}
+
 void ReadOutputFile(const std::string& CurrentFile, PlotData& plot, bool& Found) {
-    if (auto bytes = readFileBytes(OutputFilePath(CurrentFile)))
-        ReadOutputText(std::move(*bytes), plot, Found);
+    // The report is read a block at a time: it runs to hundreds of megabytes.
+    if (auto reader = LineReader::fromFile(OutputFilePath(CurrentFile)))
+        readReport(std::move(*reader), plot, Found);
 }
 
 } // namespace brooklet

@@ -34,7 +34,7 @@ std::string OutputFilePath(const std::string& CurrentFile);
 // The report as the reader walks it.
 class OutputReport {
 public:
-    explicit OutputReport(std::string bytes) : reader_(std::move(bytes)) {}
+    explicit OutputReport(LineReader reader) : reader_(std::move(reader)) {}
 
     // Brings the next meaningful line into OutputLine: page headers and blank lines are passed
     // over. At the end of the file it returns with whatever line it read last.
@@ -44,7 +44,7 @@ public:
     // True once the last line has been read.
     bool atEnd() const { return reader_.atEnd(); }
 
-    // The last line read.
+    // The last line read; valid until the next is read.
     std::string_view OutputLine;
 
 private:

@@ -542,18 +542,29 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
         SeriesStroke stroke;
         stroke.colour = std::min(i, 10);
         stroke.shape = i;
+        // Room for every point at once: the markers, and the first run, which is most often the
+        // only one.
+        if (view.plotpoints)
+            stroke.markers.reserve(size_t(std::max(count, 0)));
         float px = 0, py = 0;
         bool joined = false; // the last segment drawn ends at (px, py)
         for (int p = 1; p <= count; ++p) {
             float x = f.ToPlotX(plot.PlotX.get(xs, p));
             float y = f.ToPlotY(plot.PlotY.get(i, p));
-            if (view.plotpoints && f.withinWidth(x) && f.withinHeight(y))
+            const bool inside = f.withinWidth(x) && f.withinHeight(y);
+            if (view.plotpoints && inside)
                 stroke.markers.push_back({x, y});
             if (view.plotlines && p >= 2) {
                 const float startX = px, startY = py;
-                if (ClipSegment(f, x, y, px, py)) {
-                    if (!joined || px != startX || py != startY)
-                        stroke.runs.push_back({{px, py}});
+                // A segment with both ends in the box is drawn as it is, as the clipping finds.
+                const bool bothInside = inside && f.withinWidth(px) && f.withinHeight(py);
+                if (bothInside || ClipSegment(f, x, y, px, py)) {
+                    if (!joined || px != startX || py != startY) {
+                        stroke.runs.emplace_back();
+                        if (stroke.runs.size() == 1)
+                            stroke.runs.back().reserve(size_t(count - p + 2));
+                        stroke.runs.back().push_back({px, py});
+                    }
                     stroke.runs.back().push_back({x, y});
                     joined = true;
                 } else {

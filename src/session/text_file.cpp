@@ -1,38 +1,127 @@
 #include "session/text_file.h"
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <system_error>
+#include <utility>
+
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
 
 namespace fs = std::filesystem;
 
 namespace brooklet {
 
-LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)) {
-    if (bytes_.compare(0, 3, "\xEF\xBB\xBF") == 0)
-        pos_ = 3;
+namespace {
+
+// The bytes a reader of a file takes in at a time.
+constexpr size_t BlockSize = size_t(1) << 20;
+
+void skipByteOrderMark(const std::string& bytes, size_t end, size_t& pos) {
+    if (end >= 3 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        pos = 3;
+}
+
+// The first CR or LF of bytes first to end, or end: one pass over the bytes, sixteen at a time
+// where the processor compares them so.
+size_t findLineEnd(const char* bytes, size_t first, size_t end) {
+    size_t at = first;
+#if defined(__SSE2__) || defined(_M_X64)
+    const __m128i cr = _mm_set1_epi8('\r');
+    const __m128i lf = _mm_set1_epi8('\n');
+    for (; at + 16 <= end; at += 16) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + at));
+        const int found =
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(block, cr), _mm_cmpeq_epi8(block, lf)));
+        // The lowest bit set is the first byte found.
+        if (found != 0) {
+            int bit = 0;
+            while (!(found & (1 << bit)))
+                ++bit;
+            return at + size_t(bit);
+        }
+    }
+#endif
+    for (; at < end; ++at)
+        if (bytes[at] == '\r' || bytes[at] == '\n')
+            return at;
+    return end;
+}
+
+} // namespace
+
+LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)), end_(bytes_.size()) {
+    skipByteOrderMark(bytes_, end_, pos_);
+}
+
+std::optional<LineReader> LineReader::fromFile(const std::string& path) {
+    std::error_code ec;
+    if (!fs::is_regular_file(path, ec))
+        return std::nullopt;
+    LineReader reader;
+    reader.file_ = std::fopen(path.c_str(), "rb");
+    if (!reader.file_)
+        return std::nullopt;
+    reader.readMore();
+    skipByteOrderMark(reader.bytes_, reader.end_, reader.pos_);
+    return reader;
+}
+
+LineReader::LineReader(LineReader&& other) noexcept
+    : bytes_(std::move(other.bytes_)), pos_(other.pos_), end_(other.end_), lineNumber_(other.lineNumber_),
+      file_(std::exchange(other.file_, nullptr)) {}
+
+LineReader::~LineReader() {
+    if (file_)
+        std::fclose(file_);
+}
+
+void LineReader::readMore() {
+    if (!file_)
+        return;
+    // The bytes not yet taken go to the front, and the block behind them.
+    std::memmove(bytes_.data(), bytes_.data() + pos_, end_ - pos_);
+    end_ -= pos_;
+    pos_ = 0;
+    if (bytes_.size() < end_ + BlockSize)
+        bytes_.resize(end_ + BlockSize);
+    const size_t read = std::fread(bytes_.data() + end_, 1, BlockSize, file_);
+    end_ += read;
+    if (read == 0) {
+        std::fclose(file_);
+        file_ = nullptr;
+    }
+}
+
+bool LineReader::fileAtEnd() const {
+    if (!file_)
+        return true;
+    // Asked between blocks: one byte more tells.
+    const int next = std::getc(file_);
+    if (next == EOF)
+        return true;
+    std::ungetc(next, file_);
+    return false;
 }
 
 std::string_view LineReader::nextLine() {
     ++lineNumber_;
-    const size_t start = pos_;
-    // The line ends at the first CR or LF: find the LF, then a CR before it.
-    const char* begin = bytes_.data() + start;
-    const size_t rest = bytes_.size() - start;
-    const void* lf = std::memchr(begin, '\n', rest);
-    const size_t toLf = lf ? static_cast<size_t>(static_cast<const char*>(lf) - begin) : rest;
-    const void* cr = std::memchr(begin, '\r', toLf);
-    pos_ = start + (cr ? static_cast<size_t>(static_cast<const char*>(cr) - begin) : toLf);
-    const std::string_view line = std::string_view(bytes_).substr(start, pos_ - start);
-    if (pos_ < bytes_.size()) {
-        if (bytes_[pos_] == '\r' && pos_ + 1 < bytes_.size() && bytes_[pos_ + 1] == '\n')
-            pos_ += 2;
-        else
-            ++pos_;
+    size_t end = findLineEnd(bytes_.data(), pos_, end_);
+    // A line that runs past the bytes held, or a CR that may be followed by its LF, waits for
+    // the next block.
+    while ((end == end_ || (end + 1 == end_ && bytes_[end] == '\r')) && file_) {
+        readMore();
+        end = findLineEnd(bytes_.data(), pos_, end_);
     }
-    return line;
+    const size_t start = pos_;
+    pos_ = end;
+    if (pos_ < end_)
+        pos_ += bytes_[pos_] == '\r' && pos_ + 1 < end_ && bytes_[pos_ + 1] == '\n' ? 2 : 1;
+    return std::string_view(bytes_.data() + start, end - start);
 }
 
 std::optional<std::string> readFileBytes(const std::string& path) {

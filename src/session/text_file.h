@@ -2,6 +2,7 @@
 // Text files as the program keeps them: whole files of lines, read in one go and written in
 // one go. Lines are written with CR LF; a reader takes CR LF, LF or a CR alone as a line end.
 #include <cstdint>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,21 +12,37 @@ namespace brooklet {
 
 // Reads a file line by line from bytes held in memory, so "at the end" can be asked after
 // every line, as the loaders need. A UTF-8 byte-order mark at the start, which some editors
-// put there, is not part of the first line.
+// put there, is not part of the first line. A reader of a file (fromFile) holds one block of it
+// at a time, for files of hundreds of megabytes read once from start to end.
 class LineReader {
 public:
     explicit LineReader(std::string bytes);
-    bool atEnd() const { return pos_ >= bytes_.size(); }
+    // A reader of the file's bytes as they are read; nothing when it cannot be opened.
+    static std::optional<LineReader> fromFile(const std::string& path);
+    LineReader(LineReader&& other) noexcept;
+    LineReader& operator=(LineReader&&) = delete;
+    ~LineReader();
+
+    bool atEnd() const { return pos_ >= end_ && fileAtEnd(); }
     std::string readLine() { return std::string(nextLine()); }
-    // The next line as a view into the bytes, valid while the reader lives.
+    // The next line as a view into the bytes, valid while the reader lives; of a reader of a
+    // file, only until the next line is read.
     std::string_view nextLine();
     // How many lines have been read, so the number of the line last read.
     int lineNumber() const { return lineNumber_; }
 
 private:
+    LineReader() = default;
+    // Between blocks of a file: whether the file has more bytes.
+    bool fileAtEnd() const;
+    // Reads the next block behind the bytes not yet taken; at the file's end, closes it.
+    void readMore();
+
     std::string bytes_;
     size_t pos_ = 0;
+    size_t end_ = 0;
     int lineNumber_ = 0;
+    std::FILE* file_ = nullptr;
 };
 
 // The whole file as bytes; nothing when it does not exist or cannot be read.
