@@ -395,6 +395,8 @@ void frmTopoModel::saveSchematicAs() {
     dialog.Filter = "PNG Picture (*.png)|*.png|SVG Drawing (*.svg)|*.svg|PDF Document (*.pdf)|*.pdf";
     dialog.FileName = BaseName(context_.session.CurrentFile) + "png";
     dialog.InitDir = DirectoryPart(context_.session.CurrentFile);
+    // An existing file is replaced only when the user confirms it.
+    dialog.ConfirmOverwrite = true;
     std::optional<std::string> chosen = context_.platform.showSaveDialog(dialog);
     if (!chosen || chosen->empty())
         return;

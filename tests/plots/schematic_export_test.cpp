@@ -32,6 +32,18 @@ protected:
     frmTopoModel* window = nullptr;
 };
 
+TEST_F(SchematicExportTest, AnExistingFileIsReplacedOnlyWhenTheUserConfirms) {
+    writeBytes(folder.file("keep.png"), "the user's own picture");
+    platform.answers.push_back(BoxAnswer::No);
+    saveAs("keep.png");
+    ASSERT_EQ(platform.saveDialogs.size(), 1u);
+    EXPECT_TRUE(platform.saveDialogs[0].ConfirmOverwrite);
+    EXPECT_EQ(bytesOf(folder.file("keep.png")), "the user's own picture");
+    platform.answers.push_back(BoxAnswer::Yes);
+    saveAs("keep.png");
+    EXPECT_NE(bytesOf(folder.file("keep.png")), "the user's own picture");
+}
+
 TEST_F(SchematicExportTest, TheDialogOffersTheThreeFormats) {
     platform.savePicks.push_back(std::nullopt);
     control<QAction>(window, "mnuSaveAs")->trigger();
