@@ -173,6 +173,9 @@ void deleteSubAreaRow(WatershedTables& tables, int row) {
         return;
     for (int later = row; later < tables.SubAreaCount; ++later)
         tables.SubAreaTable.copyRow(later + 1, later);
+    // Each later sub-area keeps its own land use records: their positions move up with it.
+    tables.LandUseFirst.erase(tables.LandUseFirst.begin() + row);
+    tables.LandUseLast.erase(tables.LandUseLast.begin() + row);
     --tables.SubAreaCount;
     if (tables.SubAreaCount > 0) {
         tables.SubAreaTable.resizeRows(tables.SubAreaCount);

@@ -52,7 +52,7 @@ TEST(SubAreaTables, LandUseRecordsSetTheFirstOnceAndTheLastEachTime) {
     EXPECT_EQ(tables.SubAreaCount, 2);
 }
 
-TEST(SubAreaTables, DeletingARowHandsItsLandUseToTheSuccessor) {
+TEST(SubAreaTables, DeletingARowKeepsTheLandUseOfEveryOtherSubArea) {
     WatershedTables tables;
     const int deleted = subArea(tables, "A1", "R1");
     subArea(tables, "A2", "R2");
@@ -65,9 +65,9 @@ TEST(SubAreaTables, DeletingARowHandsItsLandUseToTheSuccessor) {
     EXPECT_EQ(tables.SubAreaTable(1, 1), "A2");
     EXPECT_EQ(tables.SubAreaTable(2, 1), "R2");
     EXPECT_EQ(tables.SubAreaTable(1, 2), "A3");
-    // A2 had no land use: it takes over the pair of row 1, and A3 that of row 2.
-    EXPECT_EQ(tables.LandUseFirst, (std::vector<int>{0, 1, 0}));
-    EXPECT_EQ(tables.LandUseLast, (std::vector<int>{0, 1, 0}));
+    // A2 still has no land use, and A3 still has Woods; the deleted row's Meadow goes with it.
+    EXPECT_EQ(tables.LandUseFirst, (std::vector<int>{0, 0, 2}));
+    EXPECT_EQ(tables.LandUseLast, (std::vector<int>{0, 0, 2}));
     EXPECT_EQ(tables.LandUseStoreCount, 2);
     EXPECT_EQ(tables.LandUseStore(1, 2), "Woods");
 }

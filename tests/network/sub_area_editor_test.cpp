@@ -287,7 +287,7 @@ TEST_F(SubAreaEditorTest, TheCalculatorButtonsHandOverTheRowAndOpenTheirWindowsB
 
 // ---- Delete ----------------------------------------------------------------------------------
 
-TEST_F(SubAreaEditorTest, DeletingASubAreaHandsItsLandUseToASuccessorWithout) {
+TEST_F(SubAreaEditorTest, DeletingASubAreaKeepsTheLandUseOfTheOthers) {
     openOn({SubAreaHeader, A1, landArea("Meadow", "B", "1."), tens({"", "A2", "R1"}) + "     ",
             tens({"", "A3", "R1"}) + "     ", landArea("Woods", "C", "2."), ""});
     enterList(1, "A1");
@@ -300,12 +300,11 @@ TEST_F(SubAreaEditorTest, DeletingASubAreaHandsItsLandUseToASuccessorWithout) {
     EXPECT_EQ(list(1)->currentText(), "");
     EXPECT_EQ(box(4)->text(), "");
     EXPECT_EQ(focused(), list(1));
-    // Each later sub-area takes the land use of the row whose number it now has: A2 that of A1,
-    // A3 the none of A2.
+    // A1's land use goes with it; A2 keeps none and A3 keeps its Woods.
     accept();
     EXPECT_EQ(workFileBytes(),
               crlf({SubAreaHeader, tens({"", "A2", "R1"}) + std::string(45, ' '),
-                    landArea("Meadow", "B", "1."), tens({"", "A3", "R1"}) + std::string(45, ' '), ""}));
+                    tens({"", "A3", "R1"}) + std::string(45, ' '), landArea("Woods", "C", "2."), ""}));
 }
 
 TEST_F(SubAreaEditorTest, DeleteAnsweredNoKeepsTheSubArea) {
