@@ -391,8 +391,9 @@ void deleteAlternateEntry(WatershedTables& tables, int alternate, int Kind, int 
     --count;
     if (count <= 0)
         return;
-    const int lastMoved = Kind == 1 ? count : tables.AlternateCount;
-    for (int moved = row; moved <= lastMoved; ++moved)
+    // Every later entry moves up, reaches as sub-areas: a bound taken from the number of
+    // alternates would repeat one reach and lose the last.
+    for (int moved = row; moved <= count; ++moved)
         for (int field = 1; field <= store.n1(); ++field)
             store.set(field, alternate, moved, store(field, alternate, moved + 1));
 }

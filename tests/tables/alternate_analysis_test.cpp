@@ -241,10 +241,10 @@ TEST(AlternateStore, TheLastOfTwoEntriesOfTheSameNameIsFound) {
     EXPECT_EQ(findAlternateEntry(tables, 1, 2, "R3", true), 0);
 }
 
-TEST(AlternateStore, DeletedReachRowsMoveUpOnlyAsFarAsTheNumberOfAlternates) {
+TEST(AlternateStore, EveryReachBehindADeletedOneMovesUp) {
     WatershedTables tables = storeWithReaches(2, {"R1", "R2", "R3", "R4", "R5"});
     deleteAlternateEntry(tables, 1, 2, 1);
-    EXPECT_EQ(reachNames(tables, 1), (Lines{"R2", "R3", "R3", "R4"}));
+    EXPECT_EQ(reachNames(tables, 1), (Lines{"R2", "R3", "R4", "R5"}));
     WatershedTables enough = storeWithReaches(5, {"R1", "R2", "R3"});
     deleteAlternateEntry(enough, 1, 2, 2);
     EXPECT_EQ(reachNames(enough, 1), (Lines{"R1", "R3"}));
