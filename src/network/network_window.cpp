@@ -41,10 +41,10 @@ void FillAlternateChoices(AppContext& context, int Kind) {
 }
 
 NetworkWindow::NetworkWindow(AppContext& context, EntryDesign design, QWidget* parent)
-    : EntryWindow(context, std::move(design), parent) {}
+    : EntryWindow(context, std::move(design), parent), WorkingAlternate(context.CurrentAlternate) {}
 
 bool NetworkWindow::alternateMode() const {
-    return context.CurrentAlternate > 0;
+    return WorkingAlternate > 0;
 }
 
 QComboBox* NetworkWindow::addList(int index, const QString& accessibleName) {
@@ -102,7 +102,7 @@ void NetworkWindow::showAlternateName() {
     if (!alternateMode())
         return;
     const TextTable& names = context.watershed.AlternateNames;
-    lblStatic(2)->setText(fromBytes(names(1, std::min(context.CurrentAlternate, names.rows()))));
+    lblStatic(2)->setText(fromBytes(names(1, std::min(workingAlternate(), names.rows()))));
     lblStatic(1)->show();
     lblStatic(2)->show();
 }

@@ -35,6 +35,9 @@ public:
 
     // The window works on an alternate of the alternate store.
     bool alternateMode() const;
+    // The alternate the window was opened on, 0 for the base data. It is taken once, when the
+    // window opens, so choosing another alternate later never turns a window's Accept towards it.
+    int workingAlternate() const { return WorkingAlternate; }
     int rowSelected() const { return Selected; }
 
 protected:
@@ -92,6 +95,7 @@ protected:
     short Previous = -999;
 
 private:
+    const int WorkingAlternate;
     int listIndexOf(QObject* control) const;
     // Tab or Enter in list Index: the list is left, then the focus moves on.
     void listKey(int index);

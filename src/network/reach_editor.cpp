@@ -103,11 +103,11 @@ void frmReaches::setDefaults() {
     if (!alternateMode())
         return;
     const WatershedTables& tables = context.watershed;
-    lblStatic(2)->setText(fromBytes(
-        tables.AlternateNames(1, std::min(context.CurrentAlternate, tables.AlternateNames.rows()))));
+    lblStatic(2)->setText(
+        fromBytes(tables.AlternateNames(1, std::min(workingAlternate(), tables.AlternateNames.rows()))));
     lblStatic(1)->show();
     lblStatic(2)->show();
-    loadReachesFromAlternate(tables, context.CurrentAlternate, ReachTable, ReachCount);
+    loadReachesFromAlternate(tables, workingAlternate(), ReachTable, ReachCount);
 }
 
 void frmReaches::readSection(const std::vector<std::string>& lines) {
@@ -311,7 +311,7 @@ void frmReaches::acceptChanges() {
         EntryWindow::acceptChanges();
         return;
     }
-    storeReachesInAlternate(context.watershed, context.CurrentAlternate, ReachTable, ReachCount);
+    storeReachesInAlternate(context.watershed, workingAlternate(), ReachTable, ReachCount);
     session.DataChanged = true;
     close();
     FillAlternateChoices(context, 2);

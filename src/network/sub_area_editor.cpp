@@ -72,7 +72,7 @@ void frmSubArea::setDefaults() {
     if (!alternateMode())
         return;
     showAlternateName();
-    loadSubAreasFromAlternate(tables, context.CurrentAlternate);
+    loadSubAreasFromAlternate(tables, workingAlternate());
 }
 
 void frmSubArea::readSection(const std::vector<std::string>& lines) {
@@ -250,7 +250,7 @@ void frmSubArea::acceptChanges() {
         EntryWindow::acceptChanges();
         return;
     }
-    storeSubAreasInAlternate(tables, context.CurrentAlternate);
+    storeSubAreasInAlternate(tables, workingAlternate());
     close();
     FillAlternateChoices(context, 1);
 }

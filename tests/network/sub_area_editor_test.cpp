@@ -307,6 +307,17 @@ TEST_F(SubAreaEditorTest, DeletingASubAreaKeepsTheLandUseOfTheOthers) {
                     tens({"", "A3", "R1"}) + std::string(45, ' '), landArea("Woods", "C", "2."), ""}));
 }
 
+TEST_F(SubAreaEditorTest, AWindowOpenedOnTheBaseDataKeepsWritingItAfterAnAlternateIsChosen) {
+    resetAlternateStore(tables());
+    const int alternate = addAlternate(tables(), "Dam", "Build a dam");
+    openOn({SubAreaHeader, A1, ""});
+    // The alternate window chooses an alternate while this window stays open.
+    context->CurrentAlternate = alternate;
+    accept();
+    EXPECT_EQ(workFileBytes(), crlf({SubAreaHeader, A1, ""}));
+    EXPECT_EQ(tables().AlternateSubAreaCount[size_t(alternate)], 0);
+}
+
 TEST_F(SubAreaEditorTest, DeleteAnsweredNoKeepsTheSubArea) {
     const Lines section = sectionOf("SUB-AREA:");
     openOn(section);
