@@ -109,8 +109,8 @@ BENCHMARK(BM_ReadOutputFile)
     ->Arg(TimeAnalysisPlot)
     ->Unit(benchmark::kMillisecond);
 
-// Ten hydrograph-like series of 100,000 points, set up, laid out and painted.
-void BM_DrawTenSeriesOfHundredThousandPoints(benchmark::State& state) {
+// Ten hydrograph-like series of 100,000 points.
+PlotData tenLongSeries() {
     PlotData plot;
     plot.PlotKind = OutputHydrographPlot;
     constexpr int points = 100'000;
@@ -130,21 +130,63 @@ void BM_DrawTenSeriesOfHundredThousandPoints(benchmark::State& state) {
             plot.PlotY.set(s, p, float(100.0 * s * t * std::exp(1.0 - t / 2.0) + 5.0 * std::sin(p * 0.01)));
         }
     }
+    return plot;
+}
+
+// The steps of the plot window's load timed apart and together: the set-up (PreparePlot), the
+// layout (Draw) and the painting into an image of the plot surface's size.
+enum DrawStep { AllSteps, SetUp, Layout, Painting };
+
+void BM_DrawTenSeriesOfHundredThousandPoints(benchmark::State& state) {
+    const auto step = DrawStep(state.range(0));
+    PlotData plot = tenLongSeries();
     QImage image(720, 440, QImage::Format_RGB32);
-    for (auto _ : state) {
-        PlotData copy = plot;
+    auto setUp = [&plot] {
+        // The set-up of a hydrograph plot works on the plot data in place, as the window's load
+        // does, and gives the same result each time.
         PlotView view = InitialView(OutputHydrographPlot, 10800, 6600);
-        PreparePlot(copy, PlotSource{}, view);
-        const PlotDrawing drawing = DrawPlot(copy, view);
+        PreparePlot(plot, PlotSource{}, view);
+        return view;
+    };
+    auto paint = [&image](const PlotDrawing& drawing) {
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.scale(1.0 / TwipsPerPixel, 1.0 / TwipsPerPixel);
         PaintPlot(painter, drawing);
         painter.end();
         benchmark::DoNotOptimize(image.constBits());
+    };
+    const PlotView preparedView = setUp();
+    PlotView layoutView = preparedView;
+    const PlotDrawing laidOut = DrawPlot(plot, layoutView);
+    for (auto _ : state) {
+        switch (step) {
+        case AllSteps: {
+            PlotView view = setUp();
+            paint(DrawPlot(plot, view));
+            break;
+        }
+        case SetUp:
+            benchmark::DoNotOptimize(setUp());
+            break;
+        case Layout: {
+            PlotView view = preparedView;
+            benchmark::DoNotOptimize(DrawPlot(plot, view));
+            break;
+        }
+        case Painting:
+            paint(laidOut);
+            break;
+        }
     }
 }
-BENCHMARK(BM_DrawTenSeriesOfHundredThousandPoints)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DrawTenSeriesOfHundredThousandPoints)
+    ->ArgName("step")
+    ->Arg(AllSteps)
+    ->Arg(SetUp)
+    ->Arg(Layout)
+    ->Arg(Painting)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace brooklet::bench

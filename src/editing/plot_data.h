@@ -41,6 +41,12 @@ public:
             values_[index(series, point)] = value;
     }
     void swap(int series, int a, int b);
+    // The values of a series from point 0 to the point bound, for loops over long series; null
+    // for a series outside the bounds.
+    const float* seriesData(int series) const {
+        return inside(series, 0) ? values_.data() + index(series, 0) : nullptr;
+    }
+    float* seriesData(int series) { return inside(series, 0) ? values_.data() + index(series, 0) : nullptr; }
 
 private:
     bool inside(int series, int point) const {

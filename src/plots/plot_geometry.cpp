@@ -246,12 +246,28 @@ MarkerShape DrawPt(float x, float y, int Shape, float Factor) {
     return marker;
 }
 
+namespace {
+
+// Calls use(p, value) for points 1 to count of a series, as PlotArray::get reads them: 0 beyond
+// the bounds. Long series are read straight from the array.
+template <class Use> void forEachPoint(const PlotArray& values, int series, int count, Use use) {
+    const float* stored = values.seriesData(series);
+    const int storedCount = stored ? std::min(count, values.pointUpper()) : 0;
+    for (int p = 1; p <= storedCount; ++p)
+        use(p, stored[p]);
+    for (int p = std::max(storedCount, 0) + 1; p <= count; ++p)
+        use(p, 0.0f);
+}
+
+} // namespace
+
 void FillTimeAxis(PlotData& plot, int Series, int Count, double Start, double Increment, double& XMinOut,
                   double& XMaxOut) {
     if (Count > plot.PlotX.pointUpper())
         plot.PlotX.growPoints(Count);
-    for (int i = 1; i <= Count; ++i)
-        plot.PlotX.set(Series, i, float(Start + Increment * (i - 1)));
+    if (float* times = plot.PlotX.seriesData(Series))
+        for (int i = 1; i <= Count; ++i)
+            times[i] = float(Start + Increment * (i - 1));
     XMinOut = MinOf(float(XMinOut), plot.PlotX.get(Series, 1));
     XMaxOut = MaxOf(float(XMaxOut), plot.PlotX.get(Series, Count));
 }
@@ -390,10 +406,10 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
 
     double YMin = plot.PlotY.get(1, 1), YMax = YMin;
     for (int s = 1; s <= series; ++s)
-        for (int p = 1; p <= plot.pointCount(s); ++p) {
-            YMin = MinOf(float(YMin), plot.PlotY.get(s, p));
-            YMax = MaxOf(float(YMax), plot.PlotY.get(s, p));
-        }
+        forEachPoint(plot.PlotY, s, plot.pointCount(s), [&](int, float v) {
+            YMin = MinOf(float(YMin), v);
+            YMax = MaxOf(float(YMax), v);
+        });
 
     double XMin = 0, XMax = 0;
     if (kind >= UnitHydrographPlot && kind <= RainfallDistributionPlot)
@@ -408,10 +424,10 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
         XMin = XMax = plot.PlotX.get(1, 1);
         const int lastSeries = kind == PeakFlowPlot ? series : std::min(series, 1);
         for (int s = 1; s <= lastSeries; ++s)
-            for (int p = 1; p <= plot.pointCount(s); ++p) {
-                XMin = MinOf(float(XMin), plot.PlotX.get(s, p));
-                XMax = MaxOf(float(XMax), plot.PlotX.get(s, p));
-            }
+            forEachPoint(plot.PlotX, s, plot.pointCount(s), [&](int, float v) {
+                XMin = MinOf(float(XMin), v);
+                XMax = MaxOf(float(XMax), v);
+            });
     } else {
         for (int s = 1; s <= series; ++s) {
             double start = 0, increment = 0;
@@ -533,6 +549,9 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
     PlotFrame& f = view.frame;
     f.PlotBottom = double(f.PlotHeight) - f.PlotMarginBottom;
     drawAxes(view, drawing);
+    const PlotFrame frame = f;
+    const PlotFrame::SeriesMap toPlot = frame.seriesMap();
+    std::vector<float> X, Y; // the plot positions of a series' points, from 1
     for (int i = 1; i <= plot.SeriesCount; ++i) {
         const int xs = plot.xSeries(i);
         LegendEntry& legend = view.Legend[size_t(std::min(i, 10))];
@@ -546,19 +565,23 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
         // only one.
         if (view.plotpoints)
             stroke.markers.reserve(size_t(std::max(count, 0)));
+        X.resize(size_t(std::max(count, 0)) + 1);
+        Y.resize(X.size());
+        forEachPoint(plot.PlotX, xs, count, [&](int p, float v) { X[size_t(p)] = toPlot.x(v); });
+        forEachPoint(plot.PlotY, i, count, [&](int p, float v) { Y[size_t(p)] = toPlot.y(v); });
         float px = 0, py = 0;
         bool joined = false; // the last segment drawn ends at (px, py)
         for (int p = 1; p <= count; ++p) {
-            float x = f.ToPlotX(plot.PlotX.get(xs, p));
-            float y = f.ToPlotY(plot.PlotY.get(i, p));
-            const bool inside = f.withinWidth(x) && f.withinHeight(y);
+            float x = X[size_t(p)];
+            float y = Y[size_t(p)];
+            const bool inside = frame.withinWidth(x) && frame.withinHeight(y);
             if (view.plotpoints && inside)
                 stroke.markers.push_back({x, y});
             if (view.plotlines && p >= 2) {
                 const float startX = px, startY = py;
                 // A segment with both ends in the box is drawn as it is, as the clipping finds.
-                const bool bothInside = inside && f.withinWidth(px) && f.withinHeight(py);
-                if (bothInside || ClipSegment(f, x, y, px, py)) {
+                const bool bothInside = inside && frame.withinWidth(px) && frame.withinHeight(py);
+                if (bothInside || ClipSegment(frame, x, y, px, py)) {
                     if (!joined || px != startX || py != startY) {
                         stroke.runs.emplace_back();
                         if (stroke.runs.size() == 1)

@@ -47,6 +47,17 @@ struct PlotFrame {
     static PlotFrame ofSurface(int width, int height);
     float ToPlotX(double v) const { return float((v - XMin) / XPerTwip + PlotLeft); }
     float ToPlotY(double v) const { return float(PlotBottom - (v - YMin) / YPerTwip); }
+    // ToPlotX and ToPlotY for the points of whole series: a multiplication by the reciprocal
+    // instead of a division, the same to the last bit of single precision but for a value on a
+    // rounding edge.
+    struct SeriesMap {
+        double XMin, XScale, Left, YMin, YScale, Bottom;
+        float x(double v) const { return float((v - XMin) * XScale + Left); }
+        float y(double v) const { return float(Bottom - (v - YMin) * YScale); }
+    };
+    SeriesMap seriesMap() const {
+        return {XMin, 1.0 / XPerTwip, double(PlotLeft), YMin, 1.0 / YPerTwip, PlotBottom};
+    }
     bool withinWidth(float x) const { return x >= PlotLeft && x <= PlotRight; }
     bool withinHeight(float y) const { return y >= 0 && y <= PlotBottom; }
 };

@@ -34,7 +34,8 @@ int nearest(double value) {
     const double bounded = std::clamp(value, -1.0e9, 1.0e9);
     const int whole = int(bounded);
     const double rest = bounded - whole;
-    return rest >= 0.5 ? whole + 1 : rest <= -0.5 ? whole - 1 : whole;
+    // Without branches: the fraction of a point's place is as often above a half as below.
+    return whole + int(rest >= 0.5) - int(rest <= -0.5);
 }
 
 // Where points land on the painter's device. The plot surface is only ever scaled and shifted,
@@ -90,6 +91,58 @@ private:
     // A device that tells no size.
     std::unordered_set<qint64> others_;
 };
+
+// The distance squared from p to the segment from a to b.
+double distanceSquaredToSegment(QPointF p, QPointF a, QPointF b) {
+    const QPointF ab = b - a, ap = p - a;
+    const double length = QPointF::dotProduct(ab, ab);
+    const double along = length > 0 ? std::clamp(QPointF::dotProduct(ap, ab) / length, 0.0, 1.0) : 0.0;
+    const QPointF off = ap - along * ab;
+    return QPointF::dotProduct(off, off);
+}
+
+} // namespace
+
+QPolygonF VisibleLine(const std::vector<PlotPoint>& run, const QTransform& toDevice) {
+    const DeviceMap map(toDevice);
+    struct Taken {
+        QPointF onDevice, onPlot;
+    };
+    std::vector<Taken> taken;
+    for (size_t i = 0; i < run.size(); ++i) {
+        if (!finite(run[i]))
+            continue;
+        const QPointF onDevice = map(run[i]);
+        if (!taken.empty() && std::abs(onDevice.x() - taken.back().onDevice.x()) <= 1.0 &&
+            std::abs(onDevice.y() - taken.back().onDevice.y()) <= 1.0 && i + 1 < run.size())
+            continue;
+        taken.push_back({onDevice, QPointF(run[i].x, run[i].y)});
+    }
+    // A straight stretch spans at most this many points, so thinning stays linear.
+    constexpr size_t LongestStretch = 32;
+    constexpr double HalfPixelSquared = 0.25;
+    QPolygonF line;
+    size_t anchor = 0;
+    for (size_t next = 0; next < taken.size(); ++next) {
+        if (next == 0 || next + 1 == taken.size()) {
+            line << taken[next].onPlot;
+            continue;
+        }
+        // Can the line go straight from the anchor to the point after next?
+        const size_t end = next + 1;
+        bool straight = end - anchor <= LongestStretch;
+        for (size_t k = anchor + 1; straight && k < end; ++k)
+            straight = distanceSquaredToSegment(taken[k].onDevice, taken[anchor].onDevice,
+                                                taken[end].onDevice) <= HalfPixelSquared;
+        if (!straight) {
+            line << taken[next].onPlot;
+            anchor = next;
+        }
+    }
+    return line;
+}
+
+namespace {
 
 void paintMarker(QPainter& painter, const MarkerShape& marker) {
     auto at = [](const PlotPoint& p) { return QPointF(p.x, p.y); };
@@ -188,28 +241,11 @@ void PaintPlot(QPainter& painter, const PlotDrawing& drawing) {
     const QFontMetricsF metrics(painter.font(), painter.device());
     for (const PlotText& text : drawing.labels)
         painter.drawText(QPointF(text.topLeft.x, text.topLeft.y + metrics.ascent()), fromBytes(text.text));
-    const DeviceMap map(painter.deviceTransform());
     for (const SeriesStroke& series : drawing.series) {
         paintMarkers(painter, series.markers, series.shape, PlotMarkerFactor);
         painter.setPen(linePen(series.colour, 4, false));
-        for (const auto& run : series.runs) {
-            // The line is four pixels wide: a point within a pixel of the point last taken adds
-            // nothing to it that shows.
-            QPolygonF line;
-            line.reserve(qsizetype(std::min<size_t>(run.size(), 1 << 16)));
-            QPointF last;
-            for (size_t i = 0; i < run.size(); ++i) {
-                if (!finite(run[i]))
-                    continue;
-                const QPointF onDevice = map(run[i]);
-                if (!line.isEmpty() && std::abs(onDevice.x() - last.x()) <= 1.0 &&
-                    std::abs(onDevice.y() - last.y()) <= 1.0 && i + 1 < run.size())
-                    continue;
-                line << QPointF(run[i].x, run[i].y);
-                last = onDevice;
-            }
-            painter.drawPolyline(line);
-        }
+        for (const auto& run : series.runs)
+            painter.drawPolyline(VisibleLine(run, painter.deviceTransform()));
     }
     for (const PlotLine& line : drawing.levels) {
         painter.setPen(linePen(line.colour, line.width, line.dotted));

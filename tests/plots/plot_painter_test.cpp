@@ -7,6 +7,9 @@
 #include <QPainter>
 #include <QPicture>
 
+#include <algorithm>
+#include <cmath>
+
 #include "plots/plot_painter.h"
 
 namespace brooklet::test {
@@ -101,6 +104,64 @@ TEST(PlotPainter, ADenseRunIsDrawnWholeInItsColourToItsLastPoint) {
         EXPECT_EQ(at(image, {300.0f + float(2400 * share), 300.0f + float(1200 * share)}), plotColour(2))
             << share;
     EXPECT_EQ(at(image, {300, 1500}), QColor(Qt::white));
+}
+
+// One run, coloured 2.
+PlotDrawing line(std::vector<PlotPoint> run) {
+    PlotDrawing drawing;
+    SeriesStroke series;
+    series.colour = 2;
+    series.runs.push_back(std::move(run));
+    drawing.series.push_back(series);
+    return drawing;
+}
+
+TEST(PlotPainter, AStraightDenseRunIsDrawnWithFewPointsFromItsFirstToItsLast) {
+    std::vector<PlotPoint> run;
+    for (int i = 0; i <= 100'000; ++i)
+        run.push_back({300.0f + 0.024f * float(i), 300.0f + 0.012f * float(i)});
+    const QTransform toPixels = QTransform::fromScale(1.0 / TwipsPerPixel, 1.0 / TwipsPerPixel);
+    const QPolygonF shown = VisibleLine(run, toPixels);
+    ASSERT_GE(shown.size(), 2);
+    // A line 160 pixels long: a point for each straight stretch of at most 32 pixels taken.
+    EXPECT_LE(shown.size(), 12);
+    EXPECT_EQ(shown.front(), QPointF(300, 300));
+    EXPECT_EQ(shown.back(), QPointF(run.back().x, run.back().y));
+}
+
+TEST(PlotPainter, ASharpPeakKeepsItsTipAndAGentleBendItsCorner) {
+    // Up from (1500, 1500) to the tip (1500, 300) and back along the same line, then to the right:
+    // every point lies on one straight line but the tip must show.
+    std::vector<PlotPoint> run;
+    for (int i = 0; i <= 1000; ++i)
+        run.push_back({1500.0f, 1500.0f - 1.2f * float(i)});
+    for (int i = 1; i <= 1000; ++i)
+        run.push_back({1500.0f, 300.0f + 1.2f * float(i)});
+    for (int i = 1; i <= 1000; ++i)
+        run.push_back({1500.0f + float(i), 1500.0f});
+    const QImage image = painted(line(run));
+    EXPECT_EQ(at(image, {1500, 300}), plotColour(2));
+    EXPECT_EQ(at(image, {1500, 900}), plotColour(2));
+    EXPECT_EQ(at(image, {2490, 1500}), plotColour(2));
+    EXPECT_EQ(at(image, {1500, 150}), QColor(Qt::white));
+    EXPECT_EQ(at(image, {2000, 900}), QColor(Qt::white));
+    const QPolygonF shown = VisibleLine(run, QTransform::fromScale(1.0 / TwipsPerPixel, 1.0 / TwipsPerPixel));
+    // Within a pixel of the tip and of the corner.
+    auto within = [&shown](QPointF place) {
+        return std::any_of(shown.begin(), shown.end(), [place](QPointF p) {
+            return std::abs(p.x() - place.x()) <= TwipsPerPixel &&
+                   std::abs(p.y() - place.y()) <= TwipsPerPixel;
+        });
+    };
+    EXPECT_TRUE(within({1500, 300}));
+    EXPECT_TRUE(within({1500, 1500}));
+}
+
+TEST(PlotPainter, APointOffTheLineByMoreThanHalfAPixelStays) {
+    const QTransform toPixels = QTransform::fromScale(1.0 / TwipsPerPixel, 1.0 / TwipsPerPixel);
+    // The middle point is 0.4 pixel off the straight line: left out; 0.6 pixel off: kept.
+    EXPECT_EQ(VisibleLine({{0, 0}, {150, 6}, {300, 0}}, toPixels).size(), 2);
+    EXPECT_EQ(VisibleLine({{0, 0}, {150, 9}, {300, 0}}, toPixels).size(), 3);
 }
 
 } // namespace
