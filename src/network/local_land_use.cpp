@@ -32,11 +32,11 @@ std::string recordedLandUse(const std::string& line) {
     return FieldAt(line, 31, 35);
 }
 
-bool isAlternateLandUseLine(const std::string& line) {
+bool isAlternateLandUseLine(std::string_view line) {
     return line.compare(0, 8, "LAND USE") == 0;
 }
 
-bool isSubAreaLandUseLine(const std::string& line) {
+bool isSubAreaLandUseLine(std::string_view line) {
     return line.size() >= 29 && line.compare(20, 9, "LAND AREA") == 0;
 }
 
@@ -149,6 +149,8 @@ std::string LocalLandUseSectionRecord(const LandUseRow& row) {
 void BuildLocalLandUseSection(const Session& session) {
     const std::vector<LandUseRow> table =
         ReadLocalLandUseFile(session.LocalLandUseFile, BlankName::DropRecord);
+    if (table.empty())
+        return; // no local land use for any record to name
     std::vector<bool> used(table.size(), false);
 
     // The first row of each trimmed name: a record marks only the first row it matches.
@@ -156,19 +158,23 @@ void BuildLocalLandUseSection(const Session& session) {
     for (size_t row = 0; row < table.size(); ++row)
         firstRow.emplace(trim(table[row][0]), row);
     bool anyUsed = false;
-    auto markUsed = [&](const std::string& line) {
-        const auto found = firstRow.find(recordedLandUse(line));
+    auto markUsed = [&](std::string_view line) {
+        const auto found = firstRow.find(recordedLandUse(std::string(line)));
         if (found == firstRow.end())
             return;
         used[found->second] = true;
         anyUsed = true;
     };
-    for (const std::string& line : readLines(session.WorkFilePath[AlternateSection]))
-        if (isAlternateLandUseLine(line))
-            markUsed(line);
-    for (const std::string& line : readLines(session.WorkFilePath[SubAreaSection]))
-        if (isSubAreaLandUseLine(line))
-            markUsed(line);
+    auto markUsedBy = [&](int section, bool (*isLandUseLine)(std::string_view)) {
+        LineReader reader(readFileBytes(session.WorkFilePath[section]).value_or(std::string()));
+        while (!reader.atEnd()) {
+            const std::string_view line = reader.nextLine();
+            if (isLandUseLine(line))
+                markUsed(line);
+        }
+    };
+    markUsedBy(AlternateSection, isAlternateLandUseLine);
+    markUsedBy(SubAreaSection, isSubAreaLandUseLine);
     if (!anyUsed)
         return;
 

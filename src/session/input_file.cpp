@@ -115,8 +115,13 @@ void ForgetPartlyRead(const Session& session) {
 
 void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete) {
     Complete = false;
-    std::string section = std::move(Line);
-    section += "\r\n";
+    const std::string header = std::move(Line) + "\r\n";
+    // Records that end with CR LF, as a saved file's do, are copied as they stand in the input;
+    // from the first that does not on, each is taken and ended with CR LF.
+    const size_t first = input.offset();
+    size_t last = first;
+    bool asTheyStand = input.holdsAllBytes();
+    std::string records;
     while (true) {
         if (input.atEnd()) {
             Complete = true;
@@ -125,11 +130,19 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
         const std::string_view line = input.nextLine();
         if (isBlankLine(line))
             break;
-        section.append(line.data(), line.size());
-        section += "\r\n";
+        if (asTheyStand && input.lastEndedWithCrLf()) {
+            last = input.offset();
+            continue;
+        }
+        if (asTheyStand)
+            records = input.heldBytes(first, last);
+        asTheyStand = false;
+        records.append(line.data(), line.size());
+        records += "\r\n";
     }
     // A second section with the same header replaces the first.
-    writeFileAtomically(Path, section);
+    writeFileAtomically(Path,
+                        {header, asTheyStand ? input.heldBytes(first, last) : std::string_view(records)});
 }
 
 void AppendReformattedSections(const Session& session) {
@@ -154,23 +167,37 @@ void AppendReformattedSections(const Session& session) {
 }
 
 SaveResult SaveInputFile(Session& session) {
-    std::string joined;
+    // The file as pieces of the work files: runs of lines that end with CR LF as they stand, a
+    // line that does not taken on its own and ended with CR LF, and blank lines left out; a blank
+    // line after each section.
+    static constexpr std::string_view CrLf = "\r\n";
+    std::vector<LineReader> workFiles;
+    workFiles.reserve(SectionCount); // the pieces point into the readers, which stay in place
+    std::vector<std::string_view> pieces;
     for (int section : SaveOrder) {
         auto bytes = readFileBytes(session.WorkFilePath[section]);
         if (!bytes)
             continue; // a missing work file leaves the section out, blank line and all
-        LineReader reader(std::move(*bytes));
+        LineReader& reader = workFiles.emplace_back(std::move(*bytes));
+        size_t runStart = reader.offset();
         while (!reader.atEnd()) {
+            const size_t lineStart = reader.offset();
             const std::string_view line = reader.nextLine();
-            if (isBlankLine(line))
+            const bool blank = isBlankLine(line);
+            if (!blank && reader.lastEndedWithCrLf())
                 continue;
-            joined.append(line.data(), line.size());
-            joined += "\r\n";
+            pieces.push_back(reader.heldBytes(runStart, lineStart));
+            if (!blank) {
+                pieces.push_back(line);
+                pieces.push_back(CrLf);
+            }
+            runStart = reader.offset();
         }
-        joined += "\r\n";
+        pieces.push_back(reader.heldBytes(runStart, reader.offset()));
+        pieces.push_back(CrLf);
     }
 
-    const WriteResult written = writeFileAtomically(session.CurrentFile, joined);
+    const WriteResult written = writeFileAtomically(session.CurrentFile, pieces);
     if (!written.ok) {
         return {false,
                 BoxRequest{"The file " + session.CurrentFile + " could not be saved (" + written.error +

@@ -63,6 +63,7 @@ std::optional<LineReader> LineReader::fromFile(const std::string& path) {
     if (!fs::is_regular_file(path, ec))
         return std::nullopt;
     LineReader reader;
+    reader.ofFile_ = true;
     reader.file_ = std::fopen(path.c_str(), "rb");
     if (!reader.file_)
         return std::nullopt;
@@ -73,6 +74,7 @@ std::optional<LineReader> LineReader::fromFile(const std::string& path) {
 
 LineReader::LineReader(LineReader&& other) noexcept
     : bytes_(std::move(other.bytes_)), pos_(other.pos_), end_(other.end_), lineNumber_(other.lineNumber_),
+      lastEndedWithCrLf_(other.lastEndedWithCrLf_), ofFile_(other.ofFile_),
       file_(std::exchange(other.file_, nullptr)) {}
 
 LineReader::~LineReader() {
@@ -119,8 +121,9 @@ std::string_view LineReader::nextLine() {
     }
     const size_t start = pos_;
     pos_ = end;
+    lastEndedWithCrLf_ = pos_ + 1 < end_ && bytes_[pos_] == '\r' && bytes_[pos_ + 1] == '\n';
     if (pos_ < end_)
-        pos_ += bytes_[pos_] == '\r' && pos_ + 1 < end_ && bytes_[pos_ + 1] == '\n' ? 2 : 1;
+        pos_ += lastEndedWithCrLf_ ? 2 : 1;
     return std::string_view(bytes_.data() + start, end - start);
 }
 
@@ -190,7 +193,11 @@ fs::path linkTarget(fs::path path) {
 
 } // namespace
 
-WriteResult writeFileAtomically(const std::string& requested, const std::string& bytes) {
+WriteResult writeFileAtomically(const std::string& path, const std::string& bytes) {
+    return writeFileAtomically(path, std::vector<std::string_view>{bytes});
+}
+
+WriteResult writeFileAtomically(const std::string& requested, const std::vector<std::string_view>& pieces) {
     const std::string path = linkTarget(requested).string();
     std::error_code linkError;
     if (fs::is_symlink(path, linkError))
@@ -205,7 +212,8 @@ WriteResult writeFileAtomically(const std::string& requested, const std::string&
         std::ofstream out(sibling, std::ios::binary | std::ios::trunc);
         if (!out)
             return {false, "it cannot be created"};
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        for (const std::string_view piece : pieces)
+            out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
         out.flush();
         if (!out) {
             out.close();

@@ -30,6 +30,16 @@ public:
     std::string_view nextLine();
     // How many lines have been read, so the number of the line last read.
     int lineNumber() const { return lineNumber_; }
+    // Whether the line last read ended with CR LF, as the program writes lines.
+    bool lastEndedWithCrLf() const { return lastEndedWithCrLf_; }
+
+    // For a reader of bytes held whole (not of a file): where the next line starts, and the
+    // bytes between two such places, so that a run of lines can be taken as it stands.
+    bool holdsAllBytes() const { return !ofFile_; }
+    size_t offset() const { return pos_; }
+    std::string_view heldBytes(size_t from, size_t to) const {
+        return std::string_view(bytes_).substr(from, to - from);
+    }
 
 private:
     LineReader() = default;
@@ -42,6 +52,8 @@ private:
     size_t pos_ = 0;
     size_t end_ = 0;
     int lineNumber_ = 0;
+    bool lastEndedWithCrLf_ = false;
+    bool ofFile_ = false;
     std::FILE* file_ = nullptr;
 };
 
@@ -68,6 +80,8 @@ struct WriteResult {
 // leaves the file as it was. A symbolic link is written through to the file it points to, which
 // keeps its permissions; a file without write permission is refused and left as it is.
 WriteResult writeFileAtomically(const std::string& path, const std::string& bytes);
+// The same, the file's bytes given as pieces written one after the other.
+WriteResult writeFileAtomically(const std::string& path, const std::vector<std::string_view>& pieces);
 
 // Joins lines, each ended by CR LF.
 std::string joinLines(const std::vector<std::string>& lines);

@@ -213,6 +213,12 @@ TEST_F(InputFileTest, LineEndsOfEveryKindAreRead) {
     EXPECT_EQ(work(8), crlf({"Stream Reach:", "  R1"}));
 }
 
+TEST_F(InputFileTest, ARunOfCrLfRecordsBrokenByOtherLineEndsIsWrittenWithCrLfThroughout) {
+    load("\xEF\xBB\xBFSub-Area:\r\n  A1\r\n  A2\n  A3\r\n  A4\r  A5\r\n   \r\nStream Reach:\r\n  R1\r\n  R2");
+    EXPECT_EQ(work(11), crlf({"Sub-Area:", "  A1", "  A2", "  A3", "  A4", "  A5"}));
+    EXPECT_EQ(work(8), crlf({"Stream Reach:", "  R1", "  R2"}));
+}
+
 TEST_F(InputFileTest, ARecordWithTabsOnlyIsNotBlank) {
     // Only the blank character makes a line blank.
     load(crlf({"Sub-Area:", "\t", "  A1"}));
@@ -260,6 +266,15 @@ TEST_F(SaveTest, BlankLinesInsideAWorkFileAreDropped) {
     session.CurrentFile = folder.file("out.inp");
     SaveInputFile(session);
     EXPECT_EQ(bytesOf(session.CurrentFile), crlf({"Sub-Area:", "  A1", "  A2", ""}));
+}
+
+TEST_F(SaveTest, WorkFileLinesOfEveryEndAreSavedWithCrLfAndAByteOrderMarkIsLeftOut) {
+    writeBytes(session.WorkFilePath[11], "\xEF\xBB\xBFSub-Area:\r\n  A1\n  A2\r  A3\r\n\r\n  A4\r\n  A5");
+    writeBytes(session.WorkFilePath[8], "Stream Reach:\n  R1\n");
+    session.CurrentFile = folder.file("out.inp");
+    SaveInputFile(session);
+    EXPECT_EQ(bytesOf(session.CurrentFile),
+              crlf({"Sub-Area:", "  A1", "  A2", "  A3", "  A4", "  A5", "", "Stream Reach:", "  R1", ""}));
 }
 
 TEST_F(SaveTest, ASaveWritesTheFileNameClearsDataChangedAndSaysSo) {

@@ -68,6 +68,28 @@ TEST_F(LineReaderTest, RandomLineEndsReadAlikeFromMemoryAndFromAFile) {
     EXPECT_GT(bothWays(bytes).size(), 1'000'000u);
 }
 
+TEST_F(LineReaderTest, TellsTheLineEndItMetAndTheBytesOfARunOfLines) {
+    LineReader reader("\xEF\xBB\xBF"
+                      "a\r\nbc\r\nd\ne\rf");
+    EXPECT_TRUE(reader.holdsAllBytes());
+    const size_t start = reader.offset();
+    EXPECT_EQ(start, 3u);
+    std::vector<bool> crLf;
+    while (!reader.atEnd()) {
+        reader.nextLine();
+        crLf.push_back(reader.lastEndedWithCrLf());
+    }
+    EXPECT_EQ(crLf, (std::vector<bool>{true, true, false, false, false}));
+    LineReader again("a\r\nbc\r\nd");
+    again.nextLine();
+    again.nextLine();
+    EXPECT_EQ(again.heldBytes(0, again.offset()), "a\r\nbc\r\n");
+    writeBytes(folder.file("y.txt"), "a\r\n");
+    auto y = LineReader::fromFile(folder.file("y.txt"));
+    ASSERT_TRUE(y.has_value());
+    EXPECT_FALSE(y->holdsAllBytes());
+}
+
 TEST_F(LineReaderTest, AMissingFileGivesNoReader) {
     EXPECT_FALSE(LineReader::fromFile(folder.file("missing.txt")).has_value());
     EXPECT_FALSE(LineReader::fromFile(folder.path()).has_value());
