@@ -248,16 +248,18 @@ MarkerShape DrawPt(float x, float y, int Shape, float Factor) {
 
 namespace {
 
-// Calls use(p, value) for points 1 to count of a series, as PlotArray::get reads them: 0 beyond
-// the bounds. Long series are read straight from the array.
-template <class Use> void forEachPoint(const PlotArray& values, int series, int count, Use use) {
-    const float* stored = values.seriesData(series);
-    const int storedCount = stored ? std::min(count, values.pointUpper()) : 0;
-    for (int p = 1; p <= storedCount; ++p)
-        use(p, stored[p]);
-    for (int p = std::max(storedCount, 0) + 1; p <= count; ++p)
-        use(p, 0.0f);
-}
+// Points of a series read as PlotArray::get reads them, straight from the array.
+class StoredPoints {
+public:
+    StoredPoints(const PlotArray& values, int series, int count)
+        : stored_(values.seriesData(series)),
+          storedCount_(stored_ ? std::min(count, values.pointUpper()) : 0) {}
+    float operator[](int p) const { return p >= 0 && p <= storedCount_ ? stored_[p] : 0.0f; }
+
+private:
+    const float* stored_;
+    int storedCount_;
+};
 
 } // namespace
 
@@ -405,11 +407,14 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
     }
 
     double YMin = plot.PlotY.get(1, 1), YMax = YMin;
-    for (int s = 1; s <= series; ++s)
-        forEachPoint(plot.PlotY, s, plot.pointCount(s), [&](int, float v) {
-            YMin = MinOf(float(YMin), v);
-            YMax = MaxOf(float(YMax), v);
-        });
+    for (int s = 1; s <= series; ++s) {
+        const int count = plot.pointCount(s);
+        const StoredPoints values(plot.PlotY, s, count);
+        for (int p = 1; p <= count; ++p) {
+            YMin = MinOf(float(YMin), values[p]);
+            YMax = MaxOf(float(YMax), values[p]);
+        }
+    }
 
     double XMin = 0, XMax = 0;
     if (kind >= UnitHydrographPlot && kind <= RainfallDistributionPlot)
@@ -423,11 +428,14 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
     if (kind == StructureRatingPlot || kind == CrossSectionPlot || kind == PeakFlowPlot) {
         XMin = XMax = plot.PlotX.get(1, 1);
         const int lastSeries = kind == PeakFlowPlot ? series : std::min(series, 1);
-        for (int s = 1; s <= lastSeries; ++s)
-            forEachPoint(plot.PlotX, s, plot.pointCount(s), [&](int, float v) {
-                XMin = MinOf(float(XMin), v);
-                XMax = MaxOf(float(XMax), v);
-            });
+        for (int s = 1; s <= lastSeries; ++s) {
+            const int count = plot.pointCount(s);
+            const StoredPoints values(plot.PlotX, s, count);
+            for (int p = 1; p <= count; ++p) {
+                XMin = MinOf(float(XMin), values[p]);
+                XMax = MaxOf(float(XMax), values[p]);
+            }
+        }
     } else {
         for (int s = 1; s <= series; ++s) {
             double start = 0, increment = 0;
@@ -551,7 +559,6 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
     drawAxes(view, drawing);
     const PlotFrame frame = f;
     const PlotFrame::SeriesMap toPlot = frame.seriesMap();
-    std::vector<float> X, Y; // the plot positions of a series' points, from 1
     for (int i = 1; i <= plot.SeriesCount; ++i) {
         const int xs = plot.xSeries(i);
         LegendEntry& legend = view.Legend[size_t(std::min(i, 10))];
@@ -565,15 +572,12 @@ PlotDrawing DrawPlot(const PlotData& plot, PlotView& view) {
         // only one.
         if (view.plotpoints)
             stroke.markers.reserve(size_t(std::max(count, 0)));
-        X.resize(size_t(std::max(count, 0)) + 1);
-        Y.resize(X.size());
-        forEachPoint(plot.PlotX, xs, count, [&](int p, float v) { X[size_t(p)] = toPlot.x(v); });
-        forEachPoint(plot.PlotY, i, count, [&](int p, float v) { Y[size_t(p)] = toPlot.y(v); });
+        const StoredPoints xValues(plot.PlotX, xs, count), yValues(plot.PlotY, i, count);
         float px = 0, py = 0;
         bool joined = false; // the last segment drawn ends at (px, py)
         for (int p = 1; p <= count; ++p) {
-            float x = X[size_t(p)];
-            float y = Y[size_t(p)];
+            float x = toPlot.x(xValues[p]);
+            float y = toPlot.y(yValues[p]);
             const bool inside = frame.withinWidth(x) && frame.withinHeight(y);
             if (view.plotpoints && inside)
                 stroke.markers.push_back({x, y});

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -21,7 +22,7 @@ const int SaveOrder[SectionCount] = {
 namespace {
 
 bool isBlankLine(std::string_view line) {
-    return line.find_first_not_of(' ') == std::string_view::npos;
+    return std::all_of(line.begin(), line.end(), [](char c) { return c == ' '; });
 }
 
 // Only columns 1 to 40 name a section: the identification line carries run options from 41 on.
