@@ -26,6 +26,20 @@ void skipByteOrderMark(const std::string& bytes, size_t end, size_t& pos) {
         pos = 3;
 }
 
+#if defined(__SSE2__) || defined(_M_X64)
+// The number of the lowest bit set of a value that is not 0.
+int lowestBitSet(unsigned value) {
+#if defined(__GNUC__)
+    return __builtin_ctz(value);
+#else
+    int bit = 0;
+    while (!(value & (1u << bit)))
+        ++bit;
+    return bit;
+#endif
+}
+#endif
+
 // The first CR or LF of bytes first to end, or end: one pass over the bytes, sixteen at a time
 // where the processor compares them so.
 size_t findLineEnd(const char* bytes, size_t first, size_t end) {
@@ -33,17 +47,20 @@ size_t findLineEnd(const char* bytes, size_t first, size_t end) {
 #if defined(__SSE2__) || defined(_M_X64)
     const __m128i cr = _mm_set1_epi8('\r');
     const __m128i lf = _mm_set1_epi8('\n');
+    auto lineEnds = [&](size_t from) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + from));
+        return unsigned(
+            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(block, cr), _mm_cmpeq_epi8(block, lf))));
+    };
+    for (; at + 32 <= end; at += 32) {
+        // Bit n set: byte n of the 32 is a CR or LF; the lowest bit set is the first found.
+        const unsigned found = lineEnds(at) | (lineEnds(at + 16) << 16);
+        if (found != 0)
+            return at + size_t(lowestBitSet(found));
+    }
     for (; at + 16 <= end; at += 16) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + at));
-        const int found =
-            _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(block, cr), _mm_cmpeq_epi8(block, lf)));
-        // The lowest bit set is the first byte found.
-        if (found != 0) {
-            int bit = 0;
-            while (!(found & (1 << bit)))
-                ++bit;
-            return at + size_t(bit);
-        }
+        if (const unsigned found = lineEnds(at))
+            return at + size_t(lowestBitSet(found));
     }
 #endif
     for (; at < end; ++at)
