@@ -261,6 +261,18 @@ private:
     int storedCount_;
 };
 
+// Widens Min and Max to the plotted values of series 1 to lastSeries, in single precision.
+void widenToValues(const PlotData& plot, const PlotArray& values, int lastSeries, double& Min, double& Max) {
+    for (int s = 1; s <= lastSeries; ++s) {
+        const int count = plot.pointCount(s);
+        const StoredPoints points(values, s, count);
+        for (int p = 1; p <= count; ++p) {
+            Min = MinOf(float(Min), points[p]);
+            Max = MaxOf(float(Max), points[p]);
+        }
+    }
+}
+
 } // namespace
 
 void FillTimeAxis(PlotData& plot, int Series, int Count, double Start, double Increment, double& XMinOut,
@@ -407,14 +419,7 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
     }
 
     double YMin = plot.PlotY.get(1, 1), YMax = YMin;
-    for (int s = 1; s <= series; ++s) {
-        const int count = plot.pointCount(s);
-        const StoredPoints values(plot.PlotY, s, count);
-        for (int p = 1; p <= count; ++p) {
-            YMin = MinOf(float(YMin), values[p]);
-            YMax = MaxOf(float(YMax), values[p]);
-        }
-    }
+    widenToValues(plot, plot.PlotY, series, YMin, YMax);
 
     double XMin = 0, XMax = 0;
     if (kind >= UnitHydrographPlot && kind <= RainfallDistributionPlot)
@@ -427,15 +432,7 @@ void PreparePlot(PlotData& plot, const PlotSource& source, PlotView& view) {
     }
     if (kind == StructureRatingPlot || kind == CrossSectionPlot || kind == PeakFlowPlot) {
         XMin = XMax = plot.PlotX.get(1, 1);
-        const int lastSeries = kind == PeakFlowPlot ? series : std::min(series, 1);
-        for (int s = 1; s <= lastSeries; ++s) {
-            const int count = plot.pointCount(s);
-            const StoredPoints values(plot.PlotX, s, count);
-            for (int p = 1; p <= count; ++p) {
-                XMin = MinOf(float(XMin), values[p]);
-                XMax = MaxOf(float(XMax), values[p]);
-            }
-        }
+        widenToValues(plot, plot.PlotX, kind == PeakFlowPlot ? series : std::min(series, 1), XMin, XMax);
     } else {
         for (int s = 1; s <= series; ++s) {
             double start = 0, increment = 0;
