@@ -1,5 +1,6 @@
 // The input file loader on any bytes: it must neither crash nor hang, whatever the file holds.
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -36,6 +37,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     brooklet::LoadInputFile(session);
     session.CurrentFile = session.ProgramFolder + "saved.inp";
     brooklet::SaveInputFile(session);
+    // A saved file loads and saves again to the very same bytes.
+    brooklet::LoadInputFile(session);
+    session.CurrentFile = session.ProgramFolder + "saved-again.inp";
+    brooklet::SaveInputFile(session);
+    if (brooklet::readFileBytes(session.ProgramFolder + "saved.inp") !=
+        brooklet::readFileBytes(session.CurrentFile))
+        std::abort();
     session.CurrentFile = session.ProgramFolder + "fuzz.inp";
     brooklet::AppendReformattedSections(session);
     return 0;
