@@ -3,6 +3,8 @@
 // sub-areas, reaches and the outlet, and both duration tables.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "plots/output_reader.h"
 #include "support/program_folder.h"
 #include "support/report_builder.h"
@@ -201,6 +203,22 @@ TEST(ReadOutputFile, ALocationNotRequestedIsPassedOverLineByLine) {
     PlotData none = request(6, {{"", "100-YR", "EASTFORK", "Upstream"}});
     EXPECT_FALSE(read(none, report));
     EXPECT_EQ(none.PlotRequest[1].T7, 0);
+}
+
+TEST(ReadOutputFile, ALocationLineNotAskedForLeavesTheNextLineToTheSearch) {
+    ReportBuilder report;
+    report.banner().storm("", "100-YR");
+    report.hydrograph("MILLPOND", "DOWNSTREAM", 0.0, "0.5000 hr", flows(200, 8), 3.5).blank();
+    // A location line that is not asked for stands just before the one that is.
+    const auto asked =
+        std::find(report.lines.begin(), report.lines.end(),
+                  ReportBuilder::at({{1, "MILLPOND"}, {21, "DOWNSTREAM"}, {45, "12.50"}, {60, "123."}}));
+    ASSERT_NE(asked, report.lines.end());
+    report.lines.insert(asked, ReportBuilder::at({{1, "UPPER-1"}, {21, "NORTHGAGE"}}));
+    PlotData plot = request(6, {{"", "100-YR", "MILLPOND", "Downstream"}});
+    EXPECT_TRUE(read(plot, report));
+    EXPECT_EQ(ys(plot, 1), values(200, 8));
+    EXPECT_EQ(plot.PlotRequest[1].T7, 8);
 }
 
 TEST(ReadOutputFile, SeveralStormsAndAlternatesFillTheirOwnRows) {

@@ -22,16 +22,16 @@ Scaled scale(double low, double high) {
 
 TEST(ScaleAxis, OnePointOrEqualValuesGiveARangeHoldingLowMinusATenthAndLowPlusNineTenths) {
     const Scaled s = scale(5.0, 5.0);
-    EXPECT_LE(s.low, 4.9 + 1e-9);
-    EXPECT_GE(s.high, 5.9 - 1e-9);
-    EXPECT_NEAR(s.ticks, 10.0, 1.0);
+    EXPECT_NEAR(s.low, 4.9, 1e-9);
+    EXPECT_NEAR(s.high, 5.9, 1e-9);
+    EXPECT_NEAR(s.ticks, 10.0, 1e-9);
 }
 
 TEST(ScaleAxis, ARangeOfNothingOnANegativeValueWorksTheSameWay) {
     const Scaled s = scale(-3.0, -3.0);
-    EXPECT_LE(s.low, -3.1 + 1e-9);
-    EXPECT_GE(s.high, -2.1 - 1e-9);
-    EXPECT_LE(s.ticks, 12.0);
+    EXPECT_NEAR(s.low, -3.1, 1e-9);
+    EXPECT_NEAR(s.high, -2.1, 1e-9);
+    EXPECT_NEAR(s.ticks, 10.0, 1e-9);
 }
 
 TEST(ScaleAxis, ARangeThatIsAPowerOfTenStepsByATenthOfIt) {
@@ -401,6 +401,22 @@ TEST(InterpolateFlow, MirrorsTheIntervalAndKeepsTheLevelWhenNoPointLiesBeyond) {
 
 // ---- The drawing -----------------------------------------------------------------------------
 
+TEST(DrawPlot, AHydrographOfOnePointStandsInARangeFromATenthBelowToNineTenthsAbove) {
+    PlotData plot = hydrographs(1);
+    plot.PlotRequest[1].T7 = 1;
+    plot.PlotY.set(1, 1, 10);
+    Tables t({}, {});
+    PlotView view = InitialView(OutputHydrographPlot, 10800, 6600);
+    PreparePlot(plot, t.source(), view);
+    const PlotDrawing drawing = DrawPlot(plot, view);
+    EXPECT_NEAR(view.frame.XMin, 0.9, 1e-6);
+    EXPECT_NEAR(view.frame.XMax, 1.9, 1e-6);
+    EXPECT_NEAR(view.frame.YMin, 9.9, 1e-6);
+    EXPECT_NEAR(view.frame.YMax, 10.9, 1e-6);
+    EXPECT_TRUE(drawing.series[0].runs.empty());
+    EXPECT_EQ(drawing.series[0].markers.size(), 1u);
+}
+
 TEST(DrawPlot, TheAxesStandAtRoundLimitsWithTheirTicksLabelsAndDottedYTicks) {
     PlotData plot = hydrographs(1);
     plot.PlotRequest[1].T[5] = "0.0";
@@ -428,11 +444,17 @@ TEST(DrawPlot, TheAxesStandAtRoundLimitsWithTheirTicksLabelsAndDottedYTicks) {
     EXPECT_NEAR(drawing.labels[10].topLeft.x, 750 + 9538 - 100, 0.01);
     EXPECT_EQ(drawing.labels[10].topLeft.y, 6190.0f);
     EXPECT_EQ(drawing.labels[11].topLeft, (PlotPoint{0, 6040}));
+    // The y ticks are dots left of the axis, one at each step of 10 up from the bottom.
+    std::vector<PlotLine> dots;
     for (const PlotLine& line : drawing.axis)
-        if (line.from == line.to) {
-            EXPECT_EQ(line.from.x, 720.0f);
-            EXPECT_EQ(line.width, 4);
-        }
+        if (line.from == line.to)
+            dots.push_back(line);
+    ASSERT_EQ(dots.size(), 11u);
+    for (size_t k = 0; k < dots.size(); ++k) {
+        EXPECT_EQ(dots[k].from.x, 720.0f) << k;
+        EXPECT_EQ(dots[k].width, 4) << k;
+        EXPECT_NEAR(dots[k].from.y, 6090 - double(k) * 6090 * 0.95 / 10, 0.01) << k;
+    }
     // The series: one run of two segments, markers at the points.
     ASSERT_EQ(drawing.series[0].runs.size(), 1u);
     EXPECT_EQ(drawing.series[0].runs[0].size(), 3u);
