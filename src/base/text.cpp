@@ -2,14 +2,14 @@
 
 namespace brooklet {
 
-std::string trim(const std::string& text) {
+std::string trim(std::string_view text) {
     size_t first = 0;
     size_t last = text.size();
     while (first < last && text[first] == ' ')
         ++first;
     while (last > first && text[last - 1] == ' ')
         --last;
-    return text.substr(first, last - first);
+    return std::string(text.substr(first, last - first));
 }
 
 std::string toUpper(std::string text) {

@@ -13,13 +13,15 @@ std::optional<float> checkedSingle(bool AllowBlank, const std::string& Text, boo
     Valid = true;
     const std::string text = trim(Text);
     if (text.empty()) {
-        if (AllowBlank) return std::nullopt;
+        if (AllowBlank)
+            return std::nullopt;
         Valid = false;
         return std::nullopt;
     }
     // A text beyond the range of a single-precision real fails like a text that is no number.
     const auto value = toSingle(text);
-    if (!value) Valid = false;
+    if (!value)
+        Valid = false;
     return value;
 }
 
@@ -28,7 +30,8 @@ std::optional<float> checkedSingle(bool AllowBlank, const std::string& Text, boo
 void ValidText(int MinLen, int MaxLen, const std::string& Text, bool& Valid, std::string& Cleaned) {
     Valid = true;
     Cleaned = trim(Text);
-    if (static_cast<int>(Cleaned.size()) < MinLen) Valid = false;
+    if (static_cast<int>(Cleaned.size()) < MinLen)
+        Valid = false;
     if (static_cast<int>(Cleaned.size()) > MaxLen)
         Cleaned = Text.substr(0, static_cast<size_t>(std::max(MaxLen, 0)));
 }
@@ -38,7 +41,8 @@ void ValidInteger(bool AllowBlank, double Min, double Max, const std::string& Te
     Valid = true;
     const std::string text = trim(Text);
     if (text.empty()) {
-        if (AllowBlank) return;
+        if (AllowBlank)
+            return;
         Valid = false;
         return;
     }
@@ -48,17 +52,20 @@ void ValidInteger(bool AllowBlank, double Min, double Max, const std::string& Te
         return;
     }
     IntValue = *value;
-    if (*value < Min || *value > Max) Valid = false;
+    if (*value < Min || *value > Max)
+        Valid = false;
 }
 
 void ValidRealAtLeast(bool AllowBlank, double Min, const std::string& Text, bool& Valid) {
     const auto value = checkedSingle(AllowBlank, Text, Valid);
-    if (value && *value < static_cast<float>(Min)) Valid = false;
+    if (value && *value < static_cast<float>(Min))
+        Valid = false;
 }
 
 void ValidRealAbove(bool AllowBlank, double Min, const std::string& Text, bool& Valid) {
     const auto value = checkedSingle(AllowBlank, Text, Valid);
-    if (value && *value <= static_cast<float>(Min)) Valid = false;
+    if (value && *value <= static_cast<float>(Min))
+        Valid = false;
 }
 
 void ValidNumber(bool AllowBlank, const std::string& Text, bool& Valid) {
@@ -73,12 +80,14 @@ void ValidNumber(bool AllowBlank, const std::string& Text, bool& Valid) {
 
 void ValidRealRange(bool AllowBlank, double Min, double Max, const std::string& Text, bool& Valid) {
     const auto value = checkedSingle(AllowBlank, Text, Valid);
-    if (value && (*value < static_cast<float>(Min) || *value > static_cast<float>(Max))) Valid = false;
+    if (value && (*value < static_cast<float>(Min) || *value > static_cast<float>(Max)))
+        Valid = false;
 }
 
 void AppendField(std::string& Record, const std::string& Value, int Width, bool AddPoint) {
     std::string text = Value;
-    if (AddPoint) EnsureDecimalPoint(text, Width);
+    if (AddPoint)
+        EnsureDecimalPoint(text, Width);
     PadField(Width, text);
     Record += text;
 }
@@ -90,17 +99,27 @@ void EnsureDecimalPoint(std::string& Text, int Width) {
 }
 
 void PadField(int Width, std::string& Text) {
-    if (static_cast<int>(Text.size()) < Width) Text.append(static_cast<size_t>(Width) - Text.size(), ' ');
+    if (static_cast<int>(Text.size()) < Width)
+        Text.append(static_cast<size_t>(Width) - Text.size(), ' ');
 }
 
+namespace {
+
+std::string_view columnsOf(const std::string& Record, int FirstColumn, int Width) {
+    const size_t start = static_cast<size_t>(FirstColumn - 1);
+    if (FirstColumn < 1 || Width <= 0 || start >= Record.size())
+        return {};
+    return std::string_view(Record).substr(start, static_cast<size_t>(Width));
+}
+
+} // namespace
+
 std::string FieldAt(const std::string& Record, int FirstColumn, int Width) {
-    return trim(FieldAsItStands(Record, FirstColumn, Width));
+    return trim(columnsOf(Record, FirstColumn, Width));
 }
 
 std::string FieldAsItStands(const std::string& Record, int FirstColumn, int Width) {
-    const size_t start = static_cast<size_t>(FirstColumn - 1);
-    if (FirstColumn < 1 || Width <= 0 || start >= Record.size()) return {};
-    return Record.substr(start, static_cast<size_t>(Width));
+    return std::string(columnsOf(Record, FirstColumn, Width));
 }
 
 } // namespace brooklet
