@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 namespace brooklet {
@@ -39,10 +40,16 @@ bool renewOldHeader(std::string& header, std::string& line) {
             continue;
         const std::string& current = sectionHeader(IdentificationSection);
         header = current;
-        if (line.size() > current.size())
-            line.replace(0, current.size(), current);
-        else
+        if (line.size() <= current.size()) {
             line = current;
+            return true;
+        }
+        // An old header set in by blanks would leave its last characters behind the new one, and
+        // the line saved would no longer read as a header: what is left of it is blanked.
+        const size_t oldEnd = line.find_first_not_of(' ') + std::strlen(old);
+        line.replace(0, current.size(), current);
+        if (oldEnd > current.size())
+            line.replace(current.size(), oldEnd - current.size(), oldEnd - current.size(), ' ');
         return true;
     }
     return false;

@@ -97,6 +97,17 @@ TEST_F(InputFileTest, AnOldHeaderIsOverwrittenInPlaceKeepingColumn22On) {
     EXPECT_EQ(work(13), crlf({"Brooklet: Version 1.0" + std::string(19, ' ') + "x", "TITLE"}));
 }
 
+TEST_F(InputFileTest, AnOldHeaderSetInByBlanksLeavesNothingOfItBehindTheNewOne) {
+    const std::string options = "  RUN OPTIONS";
+    load(crlf({"   FLUME: VERSION 2001" + std::string(18, ' ') + options, "TITLE", "", "Sub-Area:", "  A1"}));
+    EXPECT_EQ(work(13), crlf({"Brooklet: Version 1.0" + std::string(19, ' ') + options, "TITLE"}));
+    // Saved and read again, the whole file reads.
+    session.CurrentFile = folder.file("saved.inp");
+    ASSERT_TRUE(SaveInputFile(session).ok);
+    EXPECT_EQ(LoadInputFile(session).stoppedAtLine, 0);
+    EXPECT_EQ(work(11), crlf({"Sub-Area:", "  A1"}));
+}
+
 TEST_F(InputFileTest, TwoSectionsWithOneHeaderTheLastWins) {
     load(crlf({"Stream Reach:", "  R1", "  R2", "", "STREAM REACH:", "  R9", ""}));
     EXPECT_EQ(work(8), crlf({"STREAM REACH:", "  R9"}));
