@@ -263,14 +263,17 @@ private:
 
 // Widens Min and Max to the plotted values of series 1 to lastSeries, in single precision.
 void widenToValues(const PlotData& plot, const PlotArray& values, int lastSeries, double& Min, double& Max) {
+    float low = float(Min), high = float(Max);
     for (int s = 1; s <= lastSeries; ++s) {
         const int count = plot.pointCount(s);
         const StoredPoints points(values, s, count);
         for (int p = 1; p <= count; ++p) {
-            Min = MinOf(float(Min), points[p]);
-            Max = MaxOf(float(Max), points[p]);
+            low = MinOf(low, points[p]);
+            high = MaxOf(high, points[p]);
         }
     }
+    Min = low;
+    Max = high;
 }
 
 } // namespace
@@ -279,9 +282,13 @@ void FillTimeAxis(PlotData& plot, int Series, int Count, double Start, double In
                   double& XMaxOut) {
     if (Count > plot.PlotX.pointUpper())
         plot.PlotX.growPoints(Count);
-    if (float* times = plot.PlotX.seriesData(Series))
-        for (int i = 1; i <= Count; ++i)
-            times[i] = float(Start + Increment * (i - 1));
+    // The step count is kept as a real, which holds every whole number of points exactly, so
+    // the loop converts no integer (a conversion that would chain each point to the one before).
+    if (float* times = plot.PlotX.seriesData(Series)) {
+        double steps = 0;
+        for (int i = 1; i <= Count; ++i, steps += 1)
+            times[i] = float(Start + Increment * steps);
+    }
     XMinOut = MinOf(float(XMinOut), plot.PlotX.get(Series, 1));
     XMaxOut = MaxOf(float(XMaxOut), plot.PlotX.get(Series, Count));
 }
