@@ -23,6 +23,9 @@ const int SaveOrder[SectionCount] = {
 namespace {
 
 bool isBlankLine(std::string_view line) {
+    // Most records end in a character that is not a blank, which settles it at once.
+    if (!line.empty() && line.back() != ' ')
+        return false;
     return std::all_of(line.begin(), line.end(), [](char c) { return c == ' '; });
 }
 
