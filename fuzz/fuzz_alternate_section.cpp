@@ -20,10 +20,8 @@ std::vector<std::string> roundTrip(const std::vector<std::string>& lines) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    brooklet::LineReader reader(std::string(reinterpret_cast<const char*>(data), size));
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines =
+        brooklet::splitLines(std::string(reinterpret_cast<const char*>(data), size));
     const std::vector<std::string> settled = roundTrip(roundTrip(lines));
     if (roundTrip(settled) != settled)
         __builtin_trap();

@@ -8,10 +8,8 @@
 #include "session/text_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    brooklet::LineReader reader(std::string(reinterpret_cast<const char*>(data), size));
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines =
+        brooklet::splitLines(std::string(reinterpret_cast<const char*>(data), size));
 
     std::vector<std::string> keys = {"FL", "FL3", "DI3", ""};
     // The key of the first line, whatever it is, so entries of any key are read through.

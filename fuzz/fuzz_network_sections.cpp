@@ -34,10 +34,8 @@ void writtenComesBack(const std::vector<std::string>& lines, RoundTrip roundTrip
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    brooklet::LineReader reader(std::string(reinterpret_cast<const char*>(data), size));
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines =
+        brooklet::splitLines(std::string(reinterpret_cast<const char*>(data), size));
     writtenComesBack(lines, subAreaRoundTrip);
     writtenComesBack(lines, reachRoundTrip);
     return 0;

@@ -24,10 +24,7 @@ void roundTrip(const std::vector<std::string>& lines, Read read, Write write) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     using namespace brooklet;
-    LineReader reader(std::string(reinterpret_cast<const char*>(data), size));
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines = splitLines(std::string(reinterpret_cast<const char*>(data), size));
 
     roundTrip(lines, ReadDurationIncrementSection, WriteDurationIncrementSection);
     roundTrip(lines, ReadGlobalOutputSection, WriteGlobalOutputSection);

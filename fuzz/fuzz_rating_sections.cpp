@@ -27,10 +27,7 @@ void roundTrip(const brooklet::RatingLayout& layout, const std::vector<std::stri
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     using namespace brooklet;
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    LineReader reader(bytes);
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines = splitLines(bytes);
     roundTrip(StructureRatingLayout, lines);
     roundTrip(CrossSectionLayout, lines);
     // Clipboard text is outside bytes too.

@@ -29,10 +29,7 @@ void roundTrip(const std::vector<std::string>& lines, Read read, Write write) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     using namespace brooklet;
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    LineReader reader(bytes);
-    std::vector<std::string> lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    const std::vector<std::string> lines = splitLines(bytes);
 
     roundTrip(lines, ReadStormSection, WriteStormSection);
     roundTrip(lines, ReadRainfallDistributionSection, WriteRainfallDistributionSection);

@@ -59,7 +59,8 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::error_code ec;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[i], ec)) {
-            if (!entry.is_regular_file()) continue;
+            if (!entry.is_regular_file())
+                continue;
             std::ifstream in(entry.path(), std::ios::binary);
             run(std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>()));
             ++inputs;

@@ -166,15 +166,17 @@ std::optional<std::string> readFileBytes(const std::string& path) {
     return bytes;
 }
 
-std::vector<std::string> readLines(const std::string& path) {
+std::vector<std::string> splitLines(std::string bytes) {
     std::vector<std::string> lines;
-    auto bytes = readFileBytes(path);
-    if (!bytes)
-        return lines;
-    LineReader reader(std::move(*bytes));
+    LineReader reader(std::move(bytes));
     while (!reader.atEnd())
         lines.push_back(reader.readLine());
     return lines;
+}
+
+std::vector<std::string> readLines(const std::string& path) {
+    auto bytes = readFileBytes(path);
+    return bytes ? splitLines(std::move(*bytes)) : std::vector<std::string>();
 }
 
 std::optional<std::string> readFirstLine(const std::string& path) {

@@ -60,6 +60,9 @@ private:
 // The whole file as bytes; nothing when it does not exist or cannot be read.
 std::optional<std::string> readFileBytes(const std::string& path);
 
+// The lines of bytes, as a LineReader reads them.
+std::vector<std::string> splitLines(std::string bytes);
+
 // The lines of a file; an empty list when it does not exist or cannot be read.
 std::vector<std::string> readLines(const std::string& path);
 

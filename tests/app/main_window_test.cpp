@@ -156,8 +156,9 @@ TEST_F(MainWindowTest, FileCommandsAndRunHaveTheStandardKeysWithTheirCaptions) {
     for (const auto& [index, key] : keys) {
         EXPECT_FALSE(fileItem(index)->shortcut().isEmpty()) << index;
         const QList<QKeySequence> standard = QKeySequence::keyBindings(key);
-        if (!standard.isEmpty())
+        if (!standard.isEmpty()) {
             EXPECT_EQ(fileItem(index)->shortcuts(), standard) << index;
+        }
     }
     EXPECT_EQ(fileItem(15)->text(), "Save As");
     EXPECT_EQ(fileItem(18)->text(), "Exit");

@@ -107,10 +107,7 @@ TEST(AlternateSection, TheExampleWatershedsSectionComesBackByteForByte) {
 }
 
 TEST(AlternateSection, TheReferenceFileComesBackWithTheSectionsOwnDifferences) {
-    LineReader reader(bytesOf(testDataPath("alternates.inp")));
-    Lines lines;
-    while (!reader.atEnd())
-        lines.push_back(reader.readLine());
+    Lines lines = splitLines(bytesOf(testDataPath("alternates.inp")));
     Lines expected = lines;
     // Numbers get their point, the shallow surface code moves ten columns to the left, and the
     // alternate with no entries is dropped.
