@@ -1,0 +1,41 @@
+# Fails when a source file includes a folder on its own floor or above it. The folders are
+# floors: a file includes its own folder and folders on lower floors only, so no two folders
+# include each other and the session core knows nothing of the editors built on it.
+# Run as: cmake -DSOURCE_DIR=<src> -P check_include_floors.cmake
+set(floor_base 0)
+set(floor_session 1)
+set(floor_editing 2)
+set(floor_options 3)
+set(floor_tables 4)
+set(floor_network 4)
+set(floor_run 4)
+set(floor_plots 4)
+set(floor_check 4)
+set(floor_app 5)
+
+get_filename_component(SOURCE_DIR "${SOURCE_DIR}" ABSOLUTE)
+file(GLOB_RECURSE sources RELATIVE "${SOURCE_DIR}" "${SOURCE_DIR}/*.h" "${SOURCE_DIR}/*.cpp")
+set(climbs "")
+foreach(source IN LISTS sources)
+  string(REGEX MATCH "^[^/]+" folder "${source}")
+  if(NOT DEFINED floor_${folder})
+    list(APPEND climbs "${source}: the folder ${folder} has no floor")
+    continue()
+  endif()
+  file(STRINGS "${SOURCE_DIR}/${source}" includes REGEX "^[ \t]*#[ \t]*include[ \t]*\"[^\"/]+/")
+  foreach(line IN LISTS includes)
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*\"([^\"/]+)/.*" "\\1" target "${line}")
+    if(target STREQUAL folder OR NOT DEFINED floor_${target})
+      continue()
+    endif()
+    if(NOT floor_${target} LESS floor_${folder})
+      list(APPEND climbs "${source}: ${line}")
+    endif()
+  endforeach()
+endforeach()
+
+if(climbs)
+  list(JOIN climbs "\n  " text)
+  message(FATAL_ERROR "Includes that climb a floor (base < session < editing < options < "
+                      "tables, network, run, plots, check < app):\n  ${text}")
+endif()
