@@ -1,18 +1,39 @@
-// Brooklet: the editor and run controller of the watershed model. It must be started with its
-// program folder as the current folder; the work files live in its "temp" folder.
+// Brooklet: the editor and run controller of the watershed model. It works in its program folder,
+// where the work files live in the "temp" folder: the folder it is started in when that holds the
+// program's data files, otherwise a folder of the user's own.
 #include <QApplication>
 
+#include <cstdio>
+#include <cstring>
+
 #include "app/main_window.h"
+#include "app/program_folder.h"
 #include "app/window_catalog.h"
+#include "base/version.h"
 #include "editing/widgets.h"
 #include "session/app_context.h"
 #include "session/qt_platform.h"
+#include "session/text_file.h"
 
 int main(int argc, char* argv[]) {
+    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+        std::printf("Brooklet %s\n", brooklet::ProgramVersion);
+        return 0;
+    }
+
     QApplication app(argc, argv);
     QApplication::setApplicationName("Brooklet");
+    QApplication::setApplicationVersion(brooklet::ProgramVersion);
     brooklet::installAccessibility();
     brooklet::QtPlatform platform;
+
+    const auto folder = brooklet::ChooseProgramFolder(
+        brooklet::currentFolder(), brooklet::UserProgramFolder(), brooklet::InstalledDataFolder());
+    if (folder.box)
+        platform.showBox(*folder.box);
+    if (folder.folder.empty() || !brooklet::setCurrentFolder(folder.folder))
+        return 1;
+
     brooklet::AppContext context(platform);
     brooklet::registerAllWindows(context.windows);
     brooklet::frmMain main(context);

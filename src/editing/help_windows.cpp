@@ -1,5 +1,7 @@
 #include "editing/help_windows.h"
 
+#include "base/version.h"
+
 #include "editing/widgets.h"
 
 #include <QLabel>
@@ -296,6 +298,9 @@ frmAbout::frmAbout(AppContext&, QWidget* parent)
         "converter, and HEC-RAS reformatter) together.  It also allows entry or modification of Brooklet "
         "input data.");
     addLabel(content, layout, "lblVersion", "          Version - 1.00           Complied Date: 10/01/04");
+    // The version of this build, beside the editor's own version line above.
+    addLabel(content, layout, "lblProgramVersion",
+             QString("Brooklet program version %1").arg(ProgramVersion));
     addLabel(content, layout, "lblDisclaimer", DisclaimerText);
     content->setMinimumWidth(520);
     addContent(content);

@@ -1,6 +1,8 @@
 // The help box on screen and the plain help windows of the Help menu.
 #include "support/ui_fixture.h"
 
+#include "base/version.h"
+
 #include "editing/help_box.h"
 #include "editing/help_view.h"
 #include "editing/help_windows.h"
@@ -158,6 +160,9 @@ TEST_F(HelpWindowsTest, AboutShowsItsWordsAsGiven) {
         "input data.");
     EXPECT_EQ(control<QLabel>(about, "lblVersion")->text(),
               "          Version - 1.00           Complied Date: 10/01/04");
+    EXPECT_EQ(control<QLabel>(about, "lblProgramVersion")->text(),
+              QString("Brooklet program version ") + ProgramVersion);
+    EXPECT_EQ(QString(ProgramVersion).count('.'), 2) << "major.minor.patch";
     EXPECT_EQ(control<QLabel>(about, "lblDisclaimer")->text(), DisclaimerText);
     EXPECT_EQ(control<QLabel>(about, "lblDisclaimer")->text(),
               control<QLabel>(main, "lblDisclaimer")->text());

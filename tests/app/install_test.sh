@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# The Debian package of the build: it installs into a scratch root with the program, its data
+# files, the example, the menu entry, the description and the icons where the desktop looks for
+# them; the menu entry and the description pass their validators; the installed program knows
+# its version and, started with a fresh home folder, makes its own program folder and opens the
+# example watershed.
+# Usage: install_test.sh BUILD-FOLDER VERSION
+set -euo pipefail
+build="$1"
+version="$2"
+scratch="$(mktemp -d)"
+trap 'rm -rf "$scratch"' EXIT
+
+fail() { echo "FAILED: $*" >&2; exit 1; }
+
+cpack --config "$build/CPackConfig.cmake" -B "$scratch/package" >"$scratch/cpack.log" 2>&1 ||
+  { cat "$scratch/cpack.log"; fail "cpack could not make the package"; }
+package="$(ls "$scratch"/package/*.deb)"
+[ -n "$package" ] || fail "no package was made"
+dpkg-deb -x "$package" "$scratch/root"
+root="$scratch/root"
+
+for file in usr/bin/brooklet \
+            usr/share/brooklet/BrookletHelp.lst \
+            usr/share/brooklet/examples/watershed.inp \
+            usr/share/brooklet/examples/watershed.out \
+            usr/share/applications/org.brooklet.Brooklet.desktop \
+            usr/share/metainfo/org.brooklet.Brooklet.metainfo.xml \
+            usr/share/icons/hicolor/scalable/apps/org.brooklet.Brooklet.svg \
+            usr/share/icons/hicolor/48x48/apps/org.brooklet.Brooklet.png \
+            usr/share/icons/hicolor/256x256/apps/org.brooklet.Brooklet.png; do
+  [ -s "$root/$file" ] || fail "the package does not hold $file"
+done
+dpkg-deb -f "$package" Version | grep -qx "$version" || fail "the package's version is not $version"
+
+desktop-file-validate "$root/usr/share/applications/org.brooklet.Brooklet.desktop" ||
+  fail "the menu entry does not validate"
+appstreamcli validate --no-net --pedantic "$root/usr/share/metainfo/org.brooklet.Brooklet.metainfo.xml" ||
+  fail "the description does not validate"
+
+[ "$("$root/usr/bin/brooklet" --version)" = "Brooklet $version" ] || fail "brooklet --version"
+echo "install test passed: $(basename "$package")"
