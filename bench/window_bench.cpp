@@ -40,9 +40,9 @@ public:
     std::optional<std::string> showOpenDialog(const FileDialogSettings&) override { return {}; }
     std::optional<std::string> showSaveDialog(const FileDialogSettings&) override { return {}; }
     void endProgram() override {}
-    ProgramEnd runProgramAndWait(const std::string&, const std::vector<std::string>&,
-                                 const std::string&) override {
-        return ProgramEnd::NotStarted;
+    ProgramExit runProgramAndWait(const std::string&, const std::vector<std::string>&,
+                                  const std::string&) override {
+        return {};
     }
     void stopProgram() override {}
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings&) override { return {}; }

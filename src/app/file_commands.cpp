@@ -69,6 +69,41 @@ bool SaveInputFile(AppContext& context) {
     return result.ok;
 }
 
+namespace {
+
+// Runs the program of Convert or Import on the file the user chose, once the user has agreed to
+// lose a file that stands where the program writes its result. The session is named after the
+// chosen file only while the program runs, so that the control file names it. True when the
+// program ran to its end and left ResultFile; the session is then still named after the chosen
+// file. Otherwise a box has said why and the session, its name and its work files are as they
+// were before the command.
+bool runOnChosenFile(AppContext& context, const ExternalProgram& program, const std::string& chosen,
+                     const std::string& ResultFile) {
+    Session& session = context.session;
+    session.ToolName = program.ToolName;
+    if (const auto question = ReplaceResultFileQuestion(session.ToolName, ResultFile))
+        if (context.platform.showBox(*question) != BoxAnswer::Yes)
+            return false;
+    const std::string oldName = session.CurrentFile;
+    session.CurrentFile = chosen;
+    bool ran = StartProgramAndWait(context, program.ControlFile, program.Program);
+    if (ran && !fileExists(ResultFile)) {
+        // What the program left says why it wrote nothing.
+        ShowRunResult(context);
+        context.platform.showBox(ResultFileNotFoundBox(ResultFile));
+        ran = false;
+    }
+    if (!ran) {
+        session.CurrentFile = oldName;
+        setCurrentFolder(session.ProgramFolder);
+        // The menus follow the session's own file again.
+        context.windows.runMainActivation();
+    }
+    return ran;
+}
+
+} // namespace
+
 void ConvertOldData(AppContext& context, frmMain& main) {
     Session& session = context.session;
     // The converted file replaces the work files, where unsaved changes live: ask first.
@@ -79,17 +114,18 @@ void ConvertOldData(AppContext& context, frmMain& main) {
         main.chooseFileToOpen("Data Files (*.dat)|*.dat|All files (*.*)|*.*", "*.dat", "Open old Flume file");
     if (!chosen)
         return;
+    const std::string converted = BaseName(*chosen) + "inp";
+    // The session closes only once the converter has written the converted file.
+    if (!runOnChosenFile(context, ConverterProgram, *chosen, converted))
+        return;
 
     main.CloseInputFile();
     main.RefreshSectionList();
     session.CurrentFile = *chosen;
-    if (!RunProgramUnderHourglass(context, ConverterProgram)) {
-        setCurrentFolder(session.ProgramFolder);
-        return;
-    }
+    ShowRunResult(context);
     session.DataChanged = false;
     if (!session.isUntitled()) {
-        session.CurrentFile = BaseName(*chosen) + "inp";
+        session.CurrentFile = converted;
         LoadInputFile(context);
         main.setFileItemEnabled(14, true);
         main.setFileItemEnabled(15, true);
@@ -100,31 +136,36 @@ void ConvertOldData(AppContext& context, frmMain& main) {
 
 void ImportHecRas(AppContext& context, frmMain& main) {
     Session& session = context.session;
-    std::string oldName;
-    bool cancelled = false;
-    main.PromptBeforeLoading(oldName, "reformatted HEC-RAS cross section data ?", cancelled);
-    if (cancelled)
+    // The question of PromptBeforeLoading. The session it would close closes only once the
+    // reformatter has written its file, so an import that fails leaves the session as it was.
+    session.RunResultLabel = " ";
+    const auto unsaved = main.askAboutUnsavedChanges("reformatted HEC-RAS cross section data ?");
+    if (unsaved == frmMain::UnsavedChanges::Kept)
         return;
+    // No goes on with the session as it stands: the cross sections join it under its own name.
+    const bool joinSession = unsaved == frmMain::UnsavedChanges::Discarded;
     main.CmnDialog1().FilterIndex = 1;
     const auto chosen =
         main.chooseFileToOpen("Text Files (*.txt)|*.txt|All files (*.*)|*.*", "*.txt", "Open HEC-RAS file");
     if (!chosen)
         return;
-
-    session.CurrentFile = *chosen;
-    if (!RunProgramUnderHourglass(context, ReformatterProgram)) {
-        // Nothing was imported: a session kept open goes on under its own name.
-        if (oldName != " ")
-            session.CurrentFile = oldName;
+    const std::string reformatted = BaseName(*chosen) + "inp";
+    const std::string oldName = session.CurrentFile;
+    if (!runOnChosenFile(context, ReformatterProgram, *chosen, reformatted))
         return;
+    ShowRunResult(context); // judges the error file; no viewer opens, as the result label is one blank
+
+    if (joinSession) {
+        // No window may go on showing the session without the cross sections.
+        context.windows.closeSessionWindows();
+    } else {
+        main.CloseInputFile();
     }
-    // The cross sections join the session: no window may go on showing the session before them.
-    context.windows.closeSessionWindows();
     session.DataChanged = true;
-    session.CurrentFile = BaseName(session.CurrentFile) + "inp";
+    session.CurrentFile = reformatted;
     AppendReformattedSections(session);
     context.windows.ShowWindowAtOrigin("frmFlume");
-    if (oldName != " ")
+    if (joinSession)
         session.CurrentFile = oldName;
 }
 

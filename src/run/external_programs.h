@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "session/messages.h"
+#include "session/platform.h"
 #include "session/section_table.h"
 #include "session/text_file.h"
 
@@ -46,9 +47,33 @@ struct ProgramStart {
     std::string program;
     std::vector<std::string> arguments;
     std::string folder;
+    bool throughWine = false; // a Windows program started through Wine
     bool wineMissing = false; // a Windows program and no Wine on the PATH: it cannot start
 };
 ProgramStart PlanProgramStart(const Session& session, const std::string& Program);
+
+// How a program's end counts: Finished or Crashed, Stopped and NotStarted as they came. A crash
+// carries in `how` the words that say what ended the program, for the box that tells it.
+struct JudgedEnd {
+    ProgramEnd end = ProgramEnd::NotStarted;
+    std::string how;
+};
+
+// Judges how a program ended. A program ended by a signal crashed. A Windows program that dies of
+// an exception ends with the exception's code as its exit status (0xC0000005 for an access
+// violation), which counts as a crash wherever the whole status is seen; run through Wine on a
+// system that keeps only the low eight bits of an exit status, Wine's status is that code's low
+// byte (5), which counts as a crash only for a program run through Wine. Any other exit status
+// means nothing.
+JudgedEnd JudgeProgramEnd(const ProgramExit& exit, bool throughWine);
+
+// The question to ask before a program writes its result into ResultFile, with ToolName naming
+// the program; nothing when no file of that name exists.
+std::optional<BoxRequest> ReplaceResultFileQuestion(const std::string& ToolName,
+                                                    const std::string& ResultFile);
+
+// The box for a file that a program was to leave and did not: the load's words for a missing file.
+BoxRequest ResultFileNotFoundBox(const std::string& ResultFile);
 
 // After a program has ended: chooses the file the viewer shows by the error file's length (one
 // line or none counts as no errors) and tells whether the viewer is to open.

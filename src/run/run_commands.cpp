@@ -26,18 +26,18 @@ void tell(AppContext& context, const std::string& text, BoxIcon icon = BoxIcon::
 
 } // namespace
 
-ProgramEnd CallShell(AppContext& context, const ProgramStart& Command) {
+ProgramExit CallShell(AppContext& context, const ProgramStart& Command) {
     Hourglass hourglass;
     context.ProgramRunning = true;
     context.windows.runMainActivation();
-    const ProgramEnd end =
+    const ProgramExit exit =
         context.platform.runProgramAndWait(Command.program, Command.arguments, Command.folder);
     context.ProgramRunning = false;
     context.windows.runMainActivation();
-    return end;
+    return exit;
 }
 
-bool RunExternalProgram(AppContext& context, const std::string& ControlFile, const std::string& Program) {
+bool StartProgramAndWait(AppContext& context, const std::string& ControlFile, const std::string& Program) {
     Session& session = context.session;
     const ProgramStart start = PlanProgramStart(session, Program);
     if (start.wineMissing) {
@@ -49,20 +49,31 @@ bool RunExternalProgram(AppContext& context, const std::string& ControlFile, con
         context.platform.showBox(*refused);
         return false;
     }
-    switch (CallShell(context, start)) {
+    const JudgedEnd end = JudgeProgramEnd(CallShell(context, start), start.throughWine);
+    switch (end.end) {
     case ProgramEnd::NotStarted:
         tell(context, " - NOT FOUND", BoxIcon::None);
         return false;
     case ProgramEnd::Stopped:
         return false; // the Stop command has said so
     case ProgramEnd::Crashed:
-        tell(context, " ended abnormally. Its results may be incomplete.");
-        break;
+        tell(context, " ended abnormally (" + end.how + "). Its results may be incomplete.");
+        return true;
     case ProgramEnd::Finished:
         break;
     }
-    if (JudgeRunResult(session))
+    return true;
+}
+
+void ShowRunResult(AppContext& context) {
+    if (JudgeRunResult(context.session))
         ShowFileViewer(context);
+}
+
+bool RunExternalProgram(AppContext& context, const std::string& ControlFile, const std::string& Program) {
+    if (!StartProgramAndWait(context, ControlFile, Program))
+        return false;
+    ShowRunResult(context);
     return true;
 }
 

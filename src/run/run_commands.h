@@ -14,12 +14,17 @@ struct ProgramStart;
 // Starts the program hidden under the hourglass and waits for its end with the windows alive.
 // Meanwhile AppContext::ProgramRunning is set and the main window, told at the start and at the
 // end, disables the commands that would change the session or start another program.
-ProgramEnd CallShell(AppContext& context, const ProgramStart& Command);
+ProgramExit CallShell(AppContext& context, const ProgramStart& Command);
 
-// Writes the control file, runs the program, says so when it did not start or crashed, and
-// opens the viewer on its result when Run asked for one. True when the program ran to its end,
-// crashed or not, so that what it left is to be read; false when it did not start or was
-// stopped.
+// Writes the control file and runs the program, saying so when it did not start, crashed or was
+// stopped. True when the program ran to its end, crashed or not, so that what it left is to be
+// read; false when it did not start or was stopped.
+bool StartProgramAndWait(AppContext& context, const std::string& ControlFile, const std::string& Program);
+// After a program ran to its end: opens the viewer on its result when RunResultLabel asks for one,
+// on the error file when that holds errors.
+void ShowRunResult(AppContext& context);
+
+// StartProgramAndWait, then ShowRunResult when the program ran to its end; true then.
 bool RunExternalProgram(AppContext& context, const std::string& ControlFile, const std::string& Program);
 
 // The Run menu: the model on the saved input file. Nothing for a session without a saved file.

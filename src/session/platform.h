@@ -105,6 +105,13 @@ enum class ProgramEnd {
     Stopped,    // it was stopped on the user's command
 };
 
+// How a program ended and the number the system gave with it: the exit status of a program that
+// finished, the signal that ended a program that crashed (on Windows, its exit code).
+struct ProgramExit {
+    ProgramEnd end = ProgramEnd::NotStarted;
+    int code = 0;
+};
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -117,11 +124,12 @@ public:
     // Starts the program hidden, with the arguments, in the given folder, and returns when it has
     // ended, the windows living on meanwhile. The program is a path relative to the folder
     // ("./flume.exe") or the full path of a program. The folder is taken byte for byte, whatever
-    // its encoding. One program runs at a time.
-    virtual ProgramEnd runProgramAndWait(const std::string& program,
-                                         const std::vector<std::string>& arguments,
-                                         const std::string& folder) = 0;
-    // Ends the program that runs now, if any; its wait then ends with ProgramEnd::Stopped.
+    // its encoding. One program runs at a time, in a process group of its own.
+    virtual ProgramExit runProgramAndWait(const std::string& program,
+                                          const std::vector<std::string>& arguments,
+                                          const std::string& folder) = 0;
+    // Ends the program that runs now, if any, with every program it started that still runs in
+    // its process group; its wait then ends with ProgramEnd::Stopped.
     virtual void stopProgram() = 0;
     // The printer the user chose, or nothing when the dialog was cancelled.
     virtual std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) = 0;

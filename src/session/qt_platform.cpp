@@ -18,6 +18,7 @@
 #include <algorithm>
 
 #ifdef Q_OS_UNIX
+#include <signal.h>
 #include <unistd.h>
 #endif
 
@@ -124,9 +125,9 @@ std::optional<std::string> QtPlatform::showSaveDialog(const FileDialogSettings& 
     return showFileDialog(dialog, QFileDialog::AcceptSave);
 }
 
-ProgramEnd ProgramRunner::runHiddenAndWait(const std::string& program,
-                                           const std::vector<std::string>& arguments,
-                                           const std::string& folder) {
+ProgramExit ProgramRunner::runHiddenAndWait(const std::string& program,
+                                            const std::vector<std::string>& arguments,
+                                            const std::string& folder) {
     QProcess process;
     process.setProgram(pathToQt(program));
     QStringList qtArguments;
@@ -134,13 +135,15 @@ ProgramEnd ProgramRunner::runHiddenAndWait(const std::string& program,
         qtArguments << pathToQt(argument);
     process.setArguments(qtArguments);
 #ifdef Q_OS_UNIX
-    // A folder name need not be valid in any encoding, and a Qt string cannot carry every byte:
-    // the child changes into the folder by its bytes, and the program is named relative to it.
-    if (!folder.empty())
-        process.setChildProcessModifier([folder] {
-            if (::chdir(folder.c_str()) != 0)
-                ::_exit(127);
-        });
+    // The program leads a process group of its own, which the programs it starts join, so that
+    // a stop ends them all. A folder name need not be valid in any encoding, and a Qt string
+    // cannot carry every byte: the child changes into the folder by its bytes, and the program
+    // is named relative to it.
+    process.setChildProcessModifier([folder] {
+        ::setsid();
+        if (!folder.empty() && ::chdir(folder.c_str()) != 0)
+            ::_exit(127);
+    });
 #else
     process.setWorkingDirectory(pathToQt(folder));
 #endif
@@ -164,16 +167,24 @@ ProgramEnd ProgramRunner::runHiddenAndWait(const std::string& program,
         wait.exec();
     process_ = nullptr;
     if (!started)
-        return ProgramEnd::NotStarted;
+        return {ProgramEnd::NotStarted, 0};
     if (stopped_)
-        return ProgramEnd::Stopped;
-    return process.exitStatus() == QProcess::CrashExit ? ProgramEnd::Crashed : ProgramEnd::Finished;
+        return {ProgramEnd::Stopped, 0};
+    // For a program that crashed, the exit code holds the number of the signal that ended it.
+    return {process.exitStatus() == QProcess::CrashExit ? ProgramEnd::Crashed : ProgramEnd::Finished,
+            process.exitCode()};
 }
 
 void ProgramRunner::stop() {
     if (!process_)
         return;
     stopped_ = true;
+#ifdef Q_OS_UNIX
+    // The program leads its process group: the group's number is its own.
+    const qint64 group = process_->processId();
+    if (group > 0)
+        ::kill(-static_cast<pid_t>(group), SIGKILL);
+#endif
     process_->kill();
 }
 
@@ -390,9 +401,9 @@ std::optional<Bitmap> QtPlatform::clipboardBitmap() {
     return fromQImage(image);
 }
 
-ProgramEnd QtPlatform::runProgramAndWait(const std::string& program,
-                                         const std::vector<std::string>& arguments,
-                                         const std::string& folder) {
+ProgramExit QtPlatform::runProgramAndWait(const std::string& program,
+                                          const std::vector<std::string>& arguments,
+                                          const std::string& folder) {
     return runner_.runHiddenAndWait(program, arguments, folder);
 }
 

@@ -12,12 +12,13 @@ class QProcess;
 namespace brooklet {
 
 // Starts a program hidden and waits for its end in a local event loop, so windows repaint and
-// menus stay live; the processor is not kept busy.
+// menus stay live; the processor is not kept busy. On Unix the program leads a session and
+// process group of its own, so that a stop reaches the programs it starts too.
 class ProgramRunner {
 public:
-    ProgramEnd runHiddenAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                const std::string& folder);
-    // Kills the program that runs now, if any.
+    ProgramExit runHiddenAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                 const std::string& folder);
+    // Kills the program that runs now, if any, and its process group.
     void stop();
 
 private:
@@ -40,8 +41,8 @@ public:
     std::optional<std::string> showOpenDialog(const FileDialogSettings& dialog) override;
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override;
-    ProgramEnd runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                 const std::string& folder) override;
+    ProgramExit runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                  const std::string& folder) override;
     void stopProgram() override { runner_.stop(); }
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
     bool showPrintRangeDialog(PrintRangeRecord& record) override;

@@ -140,5 +140,76 @@ TEST_F(ExternalProgramsTest, PreparingAStartWritesTheControlFileAndDeletesTheRes
     EXPECT_TRUE(fileExists(folder.file("my shed.txt")));
 }
 
+TEST(JudgeProgramEndTest, AnExitStatusOfItsOwnMeansNothing) {
+    for (int status : {0, 1, 3, 4, 127, 255})
+        for (bool throughWine : {false, true})
+            EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, status}, throughWine).end, ProgramEnd::Finished)
+                << status << " " << throughWine;
+}
+
+TEST(JudgeProgramEndTest, ASignalIsACrash) {
+    const JudgedEnd end = JudgeProgramEnd({ProgramEnd::Crashed, 9}, false);
+    EXPECT_EQ(end.end, ProgramEnd::Crashed);
+    EXPECT_EQ(end.how, "signal 9");
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Crashed, 11}, true).how, "signal 11");
+}
+
+TEST(JudgeProgramEndTest, AStopAndAFailedStartStayAsTheyCame) {
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Stopped, 9}, true).end, ProgramEnd::Stopped);
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::NotStarted, 0}, true).end, ProgramEnd::NotStarted);
+}
+
+// Wine ends with the low byte of the Windows exception code where a Unix exit status keeps no more.
+TEST(JudgeProgramEndTest, TheStatusesWineGivesForWindowsExceptionsAreCrashes) {
+    struct Case {
+        int status;
+        const char* how;
+    };
+    const Case cases[] = {
+        {0x05, "exit code 5 from Wine: Windows exception 0xC0000005, access violation"},
+        {0xFD, "exit code 253 from Wine: Windows exception 0xC00000FD, stack overflow"},
+        {0x94, "exit code 148 from Wine: Windows exception 0xC0000094, integer division by zero"},
+        {0x1D, "exit code 29 from Wine: Windows exception 0xC000001D, illegal instruction"},
+        {0x8E, "exit code 142 from Wine: Windows exception 0xC000008E, floating-point division by zero"},
+        {0x90, "exit code 144 from Wine: Windows exception 0xC0000090, floating-point invalid operation"},
+        {0x09, "exit code 9 from Wine: Windows exception 0xC0000409, stack buffer overrun"},
+    };
+    for (const Case& c : cases) {
+        const JudgedEnd end = JudgeProgramEnd({ProgramEnd::Finished, c.status}, true);
+        EXPECT_EQ(end.end, ProgramEnd::Crashed) << c.status;
+        EXPECT_EQ(end.how, c.how);
+        // The same status from a program of this system is its own affair.
+        EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, c.status}, false).end, ProgramEnd::Finished)
+            << c.status;
+    }
+}
+
+// Where the whole status is seen, it is the exception's code itself.
+TEST(JudgeProgramEndTest, AWholeWindowsExceptionCodeIsACrash) {
+    const int accessViolation = static_cast<int>(0xC0000005u);
+    for (bool throughWine : {false, true}) {
+        const JudgedEnd end = JudgeProgramEnd({ProgramEnd::Finished, accessViolation}, throughWine);
+        EXPECT_EQ(end.end, ProgramEnd::Crashed);
+        EXPECT_EQ(end.how, "exit code 0xC0000005, access violation");
+    }
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, static_cast<int>(0xC00000FDu)}, true).how,
+              "exit code 0xC00000FD, stack overflow");
+    // A crash told as such by the system keeps the exception's words.
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Crashed, accessViolation}, false).how,
+              "exit code 0xC0000005, access violation");
+}
+
+TEST_F(ExternalProgramsTest, TheQuestionBeforeAResultFileIsWrittenOverAnotherNamesItsFile) {
+    const std::string inp = folder.file("old.inp");
+    EXPECT_EQ(ReplaceResultFileQuestion("Flume Input Converter (Flume_Converter.exe)", inp), std::nullopt);
+    writeBytes(inp, "DAYS OF WORK\r\n");
+    EXPECT_EQ(
+        ReplaceResultFileQuestion("Flume Input Converter (Flume_Converter.exe)", inp),
+        (BoxRequest{"The file " + inp +
+                        " already exists. Flume Input Converter (Flume_Converter.exe) writes its result "
+                        "into that file, and what the file holds now is lost.\r\rReplace it?",
+                    "BrookletSystem", BoxButtons::YesNo, BoxIcon::Exclamation}));
+}
+
 } // namespace
 } // namespace brooklet::test

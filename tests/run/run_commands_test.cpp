@@ -8,11 +8,18 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <filesystem>
 #include <functional>
 #include <map>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -44,6 +51,53 @@ protected:
     void run() { clickMenuItem("mnuRun"); }
     frmFileDisp* viewer() { return context->windows.loadedAs<frmFileDisp>("frmFileDisp"); }
     bool menuShown(const char* name) { return control<QAction>(main, name)->isVisible(); }
+
+    // What a command that fails or is refused leaves as it found it.
+    struct SessionSnapshot {
+        std::string CurrentFile;
+        bool DataChanged = false;
+        std::string caption;
+        bool saveEnabled = false;
+        bool saveAsEnabled = false;
+        std::vector<std::optional<std::string>> workFiles; // 1 to 16
+    };
+    SessionSnapshot snapshot() {
+        SessionSnapshot state{session().CurrentFile,
+                              session().DataChanged,
+                              main->windowTitle().toStdString(),
+                              control<QAction>(main, "mnuFileItem(14)")->isEnabled(),
+                              control<QAction>(main, "mnuFileItem(15)")->isEnabled(),
+                              {}};
+        for (int number = 1; number <= WorkFileCount; ++number)
+            state.workFiles.push_back(readFileBytes(workFile(number)));
+        return state;
+    }
+    void expectSessionAsBefore(const SessionSnapshot& before) {
+        const SessionSnapshot now = snapshot();
+        EXPECT_EQ(now.CurrentFile, before.CurrentFile);
+        EXPECT_EQ(now.DataChanged, before.DataChanged);
+        EXPECT_EQ(now.caption, before.caption);
+        EXPECT_EQ(now.saveEnabled, before.saveEnabled);
+        EXPECT_EQ(now.saveAsEnabled, before.saveAsEnabled);
+        for (int number = 1; number <= WorkFileCount; ++number)
+            EXPECT_EQ(now.workFiles[number - 1], before.workFiles[number - 1]) << "work file " << number;
+    }
+    // Opens a session on a file and keeps unsaved changes in it: a reach accepted but not saved.
+    std::string openSessionWithUnsavedChanges(const std::string& path) {
+        openSession(path);
+        writeBytes(workFile(8), crlf({"Stream Reach:", "  UNSAVED"}));
+        session().DataChanged = true;
+        main->Form_Activate();
+        return path;
+    }
+    // An old input file of fourteen lines, as an engineer keeps it.
+    std::string oldDataFile() {
+        std::vector<std::string> lines;
+        for (int i = 1; i <= 14; ++i)
+            lines.push_back("OLD RECORD " + std::to_string(i));
+        writeBytes(folder.file("old.dat"), crlf(lines));
+        return folder.file("old.dat");
+    }
 
     std::string programFolder = folder.path();
 };
@@ -310,6 +364,48 @@ TEST_F(RunStateTest, StopEndsTheProgramAndSaysSo) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+// The model starts a program of its own, which would outlive it; it tells its process number
+// through a named pipe and holds the pipe open for as long as it lives.
+TEST_F(RunStateTest, StopEndsTheProgramsTheModelStartedToo) {
+    const std::string fifo = folder.file("child.fifo");
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    const int pipe = ::open(fifo.c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(pipe, 0);
+    installProgram("flume.exe");
+    orders({"spawn-child " + fifo, "wait-for " + release, "lines out 3"});
+    openSession(folder.file("shed.inp"));
+    // Stop once the child runs, that is once its number has come through the pipe.
+    std::string childNumber;
+    QSocketNotifier childTold(pipe, QSocketNotifier::Read);
+    QObject::connect(&childTold, &QSocketNotifier::activated, main, [&] {
+        char buffer[32];
+        const ssize_t got = ::read(pipe, buffer, sizeof buffer);
+        if (got <= 0)
+            return;
+        childNumber.append(buffer, static_cast<size_t>(got));
+        if (childNumber.back() != '\n')
+            return;
+        childTold.setEnabled(false);
+        clickMenuItem("mnuStop");
+    });
+    run();
+    ASSERT_FALSE(childNumber.empty());
+    EXPECT_EQ(platform.boxTexts(), std::vector<std::string>{"Brooklet program file (Flume.exe) was stopped "
+                                                            "before its end. Its results are incomplete."});
+    EXPECT_FALSE(menuShown("mnuStop"));
+    EXPECT_EQ(viewer(), nullptr);
+    // The pipe ends when the last program holding it is gone: a read then finds its end.
+    pollfd end{pipe, POLLIN, 0};
+    const int ready = ::poll(&end, 1, 20000);
+    char rest[32];
+    const ssize_t read = ready == 1 ? ::read(pipe, rest, sizeof rest) : -1;
+    ::close(pipe);
+    const bool childGone = ready == 1 && read == 0;
+    if (!childGone) // it still holds the pipe, so the number is still its own: it goes now
+        ::kill(static_cast<pid_t>(std::stol(childNumber)), SIGKILL);
+    EXPECT_TRUE(childGone) << "the child outlived the stop";
+}
+
 TEST_F(RunStateTest, ExitDuringARunAnsweredYesStopsTheProgramAndEnds) {
     installWaitingModel();
     openSession(folder.file("shed.inp"));
@@ -371,20 +467,35 @@ TEST_F(RunStateTest, TheCloseBoxDuringARunAnsweredYesStopsTheProgramAndCloses) {
     EXPECT_EQ(viewer(), nullptr);
 }
 
-TEST_F(RunStateTest, AConverterStoppedLoadsNothing) {
+TEST_F(RunStateTest, AStoppedConvertLeavesTheSessionAsItWas) {
     installProgram("Flume_Converter.exe");
     writeBytes(folder.file("converted.txt"), crlf({"Sub-Area:", "  A1"}));
     orders({"wait-for " + release, "copy inp " + folder.file("converted.txt")});
-    platform.openPicks.push_back(folder.file("old.dat"));
+    const std::string shed = openSessionWithUnsavedChanges(folder.file("shed.inp"));
+    const std::string old = oldDataFile();
+    const SessionSnapshot before = snapshot();
+    const auto windowsShown = context->windows.shownNames().size();
+    platform.answers.push_back(BoxAnswer::No); // the unsaved changes need not be saved first
+    platform.openPicks.push_back(old);
     QTimer::singleShot(0, main, [&] { clickMenuItem("mnuStop"); });
     clickMenuItem("mnuFileItem(6)");
-    EXPECT_EQ(platform.boxTexts(),
-              std::vector<std::string>{"Flume Input Converter (Flume_Converter.exe) was "
-                                       "stopped before its end. Its results are incomplete."});
+    EXPECT_EQ(
+        platform.boxTexts(),
+        (std::vector<std::string>{"Save and Close current file before loading\rconverted old Flume data ?",
+                                  "Flume Input Converter (Flume_Converter.exe) was stopped before its end. "
+                                  "Its results are incomplete."}));
+    EXPECT_EQ(platform.stopCount, 1);
     EXPECT_FALSE(fileExists(folder.file("old.inp")));
-    EXPECT_EQ(session().CurrentFile, folder.file("old.dat"));
-    EXPECT_EQ(fileLength(workFile(11)), 0u);
-    EXPECT_FALSE(context->windows.shownNames().contains("frmFlume"));
+    EXPECT_EQ(bytesOf(old),
+              crlf({"OLD RECORD 1", "OLD RECORD 2", "OLD RECORD 3", "OLD RECORD 4", "OLD RECORD 5",
+                    "OLD RECORD 6", "OLD RECORD 7", "OLD RECORD 8", "OLD RECORD 9", "OLD RECORD 10",
+                    "OLD RECORD 11", "OLD RECORD 12", "OLD RECORD 13", "OLD RECORD 14"}));
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_TRUE(session().DataChanged);
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  UNSAVED"}));
+    EXPECT_EQ(main->windowTitle().toStdString(), "Brooklet Editor 2001   Current File - " + shed);
+    EXPECT_EQ(context->windows.shownNames().size(), windowsShown); // frmFlume did not open
 }
 
 TEST_F(RunCommandsTest, ACrashIsToldAndTheErrorFileStillDecides) {
@@ -393,10 +504,10 @@ TEST_F(RunCommandsTest, ACrashIsToldAndTheErrorFileStillDecides) {
     openSession(folder.file("shed.inp"));
     run();
     ASSERT_EQ(platform.boxes.size(), 1u);
-    EXPECT_EQ(
-        platform.boxes[0],
-        (BoxRequest{"Brooklet program file (Flume.exe) ended abnormally. Its results may be incomplete.",
-                    "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"Brooklet program file (Flume.exe) ended abnormally (signal 9). Its results may be "
+                          "incomplete.",
+                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
     EXPECT_FALSE(fileExists(folder.file("shed.dbg"))); // the program did end at the crash
     ASSERT_NE(viewer(), nullptr);
     EXPECT_EQ(session().ViewIndex, 5);
@@ -409,7 +520,8 @@ TEST_F(RunCommandsTest, ACrashWithoutErrorsShowsThePrintedPageFile) {
     openSession(folder.file("shed.inp"));
     run();
     EXPECT_EQ(platform.boxTexts(), std::vector<std::string>{"Brooklet program file (Flume.exe) ended "
-                                                            "abnormally. Its results may be incomplete."});
+                                                            "abnormally (signal 9). Its results may be "
+                                                            "incomplete."});
     EXPECT_EQ(session().ViewIndex, 4);
     ASSERT_NE(viewer(), nullptr);
 }
@@ -514,6 +626,37 @@ TEST_F(WindowsProgramTest, WithoutWineTheBoxSaysTheProgramNeedsIt) {
     EXPECT_EQ(viewer(), nullptr);
 }
 
+// Wine ends with the low byte of the Windows exception that ended the program: 5 for an access
+// violation (0xC0000005). The stand-in plays Wine and ends so.
+TEST_F(WindowsProgramTest, AProgramThatCrashesUnderWineIsToldAsACrashWithItsExitCode) {
+    fs::copy_file(BROOKLET_STAND_IN_MODEL, bin + "/wine");
+    fs::permissions(bin + "/wine", fs::perms::owner_all);
+    orders({"lines out 3", "lines err 2", "exit 5"});
+    openSession(folder.file("shed.inp"));
+    run();
+    ASSERT_EQ(platform.programsRun.size(), 1u);
+    EXPECT_EQ(platform.programsRun[0].program, bin + "/wine");
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"Brooklet program file (Flume.exe) ended abnormally (exit code 5 from Wine: Windows "
+                    "exception 0xC0000005, access violation). Its results may be incomplete.",
+                    "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    // The error file decides, as after any run.
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(session().ViewIndex, 5);
+}
+
+TEST_F(RunCommandsTest, TheExitStatusOfAProgramOfThisSystemMeansNothing) {
+    installProgram("flume.exe");
+    orders({"lines out 3", "exit 5"});
+    openSession(folder.file("shed.inp"));
+    run();
+    EXPECT_TRUE(platform.boxes.empty());
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(session().ViewIndex, 4);
+}
+
 TEST_F(RunCommandsTest, ConvertAsksAboutUnsavedChangesAndLoadsTheConvertedFile) {
     installProgram("Flume_Converter.exe");
     writeBytes(folder.file("converted.txt"),
@@ -570,23 +713,58 @@ TEST_F(RunCommandsTest, ConvertWithAResultLabelLeftByARunOpensTheViewer) {
     EXPECT_EQ(session().ViewIndex, 5);
 }
 
-TEST_F(RunCommandsTest, AConverterThatLeftNoFileLeadsToTheNotFoundBox) {
+TEST_F(RunCommandsTest, AConverterThatLeftNoFileSaysSoAndKeepsTheSession) {
     installProgram("Flume_Converter.exe");
     orders({});
-    platform.openPicks.push_back(folder.file("old.dat"));
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const SessionSnapshot before = snapshot();
+    platform.openPicks.push_back(oldDataFile());
     clickMenuItem("mnuFileItem(6)");
     ASSERT_EQ(platform.boxes.size(), 1u);
-    EXPECT_EQ(platform.boxes[0].text, "Error --- File " + folder.file("old.inp") + " Not Found");
-    EXPECT_EQ(session().CurrentFile, "> Untitled <");
+    EXPECT_EQ(platform.boxes[0], (BoxRequest{"Error --- File " + folder.file("old.inp") + " Not Found",
+                                             "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R1        OUTLET"}));
 }
 
-TEST_F(RunCommandsTest, AMissingConverterSaysNotFoundAndKeepsTheChosenFile) {
-    platform.openPicks.push_back(folder.file("old.dat"));
+TEST_F(RunCommandsTest, AMissingConverterSaysNotFoundAndKeepsTheSession) {
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const SessionSnapshot before = snapshot();
+    const std::string old = oldDataFile();
+    const std::string oldBytes = bytesOf(old);
+    platform.openPicks.push_back(old);
     clickMenuItem("mnuFileItem(6)");
     ASSERT_EQ(platform.boxes.size(), 1u);
     EXPECT_EQ(platform.boxes[0].text, "Flume Input Converter (Flume_Converter.exe) - NOT FOUND");
-    EXPECT_EQ(session().CurrentFile, folder.file("old.dat"));
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_EQ(main->windowTitle().toStdString(), "Brooklet Editor 2001   Current File - " + shed);
+    EXPECT_EQ(bytesOf(old), oldBytes);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+// A Convert whose converter did not start once made the old data file the session's file, and a
+// later "Save and Close" wrote the session over it.
+TEST_F(RunCommandsTest, AfterAFailedConvertSaveAndCloseWritesTheSessionsOwnFile) {
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const std::string old = oldDataFile();
+    const std::string oldBytes = bytesOf(old);
+    platform.openPicks.push_back(old);
+    clickMenuItem("mnuFileItem(6)"); // no converter in the program folder
+    EXPECT_EQ(session().CurrentFile, shed);
+    // An edit accepted afterwards, then another file is opened and the session saved first.
+    writeBytes(workFile(8), crlf({"Stream Reach:", "  R2        OUTLET"}));
+    session().DataChanged = true;
+    main->Form_Activate();
+    writeBytes(folder.file("other.inp"), crlf({"Brooklet: Version 1.0", "OTHER"}));
+    platform.answers.push_back(BoxAnswer::Yes);
+    platform.openPicks.push_back(folder.file("other.inp"));
+    clickMenuItem("mnuFileItem(2)");
+    EXPECT_EQ(bytesOf(old), oldBytes);
+    const std::string saved = bytesOf(shed);
+    EXPECT_NE(saved.find("Stream Reach:\r\n  R2        OUTLET\r\n"), std::string::npos) << saved;
+    EXPECT_EQ(session().CurrentFile, folder.file("other.inp"));
 }
 
 TEST_F(RunCommandsTest, CancellingTheConvertDialogEndsTheCommandWithTheCaption) {
@@ -671,6 +849,121 @@ TEST_F(ImportTest, AMissingReformatterSaysNotFoundAndKeepsTheSession) {
     EXPECT_EQ(platform.boxes[1].text, "HEC-RAS Reformatter (Flume_HECRAS_Rating.exe) - NOT FOUND");
     EXPECT_EQ(session().CurrentFile, shed);
     EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R1        OUTLET"}));
+}
+
+TEST_F(RunCommandsTest, ConvertAsksBeforeItsResultReplacesAnExistingInputFile) {
+    installProgram("Flume_Converter.exe");
+    writeBytes(folder.file("converted.txt"),
+               crlf({"Brooklet: Version 1.0", "CONVERTED", "", "Sub-Area:", "  A1"}));
+    orders({"copy inp " + folder.file("converted.txt")});
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const std::string old = oldDataFile();
+    const std::string oldBytes = bytesOf(old);
+    const std::string inp = folder.file("old.inp");
+    writeBytes(inp, crlf({"Brooklet: Version 1.0", "DAYS OF WORK", "", "Sub-Area:", "  KEEP"}));
+    const SessionSnapshot before = snapshot();
+    const BoxRequest question{
+        "The file " + inp +
+            " already exists. Flume Input Converter (Flume_Converter.exe) writes its result "
+            "into that file, and what the file holds now is lost.\r\rReplace it?",
+        "BrookletSystem", BoxButtons::YesNo, BoxIcon::Exclamation};
+
+    // No: nothing runs and nothing changes.
+    platform.answers.push_back(BoxAnswer::No);
+    platform.openPicks.push_back(old);
+    clickMenuItem("mnuFileItem(6)");
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], question);
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("flumeConv.fil")));
+    EXPECT_EQ(bytesOf(inp), crlf({"Brooklet: Version 1.0", "DAYS OF WORK", "", "Sub-Area:", "  KEEP"}));
+    EXPECT_EQ(bytesOf(old), oldBytes);
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+
+    // Yes: the converter writes its file, which becomes the session.
+    platform.boxes.clear();
+    platform.answers.push_back(BoxAnswer::Yes);
+    platform.openPicks.push_back(old);
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_EQ(platform.boxes, std::vector<BoxRequest>{question});
+    EXPECT_EQ(bytesOf(inp), crlf({"Brooklet: Version 1.0", "CONVERTED", "", "Sub-Area:", "  A1"}));
+    EXPECT_EQ(session().CurrentFile, inp);
+    EXPECT_FALSE(session().DataChanged);
+    EXPECT_EQ(bytesOf(workFile(11)), crlf({"Sub-Area:", "  A1"}));
+    EXPECT_EQ(fileLength(workFile(8)), 0u);
+    EXPECT_EQ(main->windowTitle().toStdString(), "Brooklet Editor 2001   Current File - " + inp);
+}
+
+TEST_F(ImportTest, ImportAsksBeforeTheReformattersFileReplacesAnExistingOne) {
+    reformatterWrites(reformatted);
+    const std::string shed = openSessionWithUnsavedChanges(folder.file("shed.inp"));
+    const std::string inp = folder.file("river.inp");
+    writeBytes(inp, crlf({"Brooklet: Version 1.0", "RIVER STUDY", "", "Stream Reach:", "  KEEP"}));
+    const SessionSnapshot before = snapshot();
+    platform.answers = {BoxAnswer::No, BoxAnswer::No}; // the session goes on; the file is not replaced
+    platform.openPicks.push_back(folder.file("river.txt"));
+    clickMenuItem("mnuFileItem(7)");
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(
+        platform.boxes[1],
+        (BoxRequest{"The file " + inp +
+                        " already exists. HEC-RAS Reformatter (Flume_HECRAS_Rating.exe) writes its result "
+                        "into that file, and what the file holds now is lost.\r\rReplace it?",
+                    "BrookletSystem", BoxButtons::YesNo, BoxIcon::Exclamation}));
+    EXPECT_TRUE(platform.programsRun.empty());
+    EXPECT_FALSE(fileExists(folder.file("flume_HECRAS.fil")));
+    EXPECT_EQ(bytesOf(inp), crlf({"Brooklet: Version 1.0", "RIVER STUDY", "", "Stream Reach:", "  KEEP"}));
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_EQ(fileLength(workFile(7)), 0u);
+
+    platform.boxes.clear();
+    platform.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    platform.openPicks.push_back(folder.file("river.txt"));
+    clickMenuItem("mnuFileItem(7)");
+    EXPECT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(bytesOf(inp), crlf(reformatted));
+    EXPECT_EQ(bytesOf(workFile(7)), crlf({"Stream Cross Section:", "  XS9  a", "  XS9  b"}));
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_TRUE(session().DataChanged);
+}
+
+// Without unsaved changes the import begins a session of its own; a stopped one begins nothing.
+TEST_F(ImportTest, AStoppedImportLeavesTheSessionAsItWas) {
+    installProgram("Flume_HECRAS_Rating.exe");
+    const std::string release = folder.file("release");
+    writeBytes(folder.file("reformatted.txt"), crlf(reformatted));
+    orders({"wait-for " + release, "copy inp " + folder.file("reformatted.txt")});
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const SessionSnapshot before = snapshot();
+    platform.openPicks.push_back(folder.file("river.txt"));
+    QTimer::singleShot(0, main, [&] { clickMenuItem("mnuStop"); });
+    clickMenuItem("mnuFileItem(7)");
+    EXPECT_EQ(platform.boxTexts(),
+              std::vector<std::string>{"HEC-RAS Reformatter (Flume_HECRAS_Rating.exe) was "
+                                       "stopped before its end. Its results are "
+                                       "incomplete."});
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
+    EXPECT_FALSE(session().DataChanged);
+    EXPECT_EQ(bytesOf(workFile(8)), crlf({"Stream Reach:", "  R1        OUTLET"}));
+    EXPECT_TRUE(control<QAction>(main, "mnuFileItem(14)")->isEnabled());
+    EXPECT_FALSE(fileExists(folder.file("river.inp")));
+}
+
+TEST_F(ImportTest, AReformatterThatLeftNoFileSaysSoAndKeepsTheSession) {
+    installProgram("Flume_HECRAS_Rating.exe");
+    orders({});
+    const std::string shed = openSession(folder.file("shed.inp"));
+    const SessionSnapshot before = snapshot();
+    platform.openPicks.push_back(folder.file("river.txt"));
+    clickMenuItem("mnuFileItem(7)");
+    EXPECT_EQ(platform.boxes,
+              (std::vector<BoxRequest>{{"Error --- File " + folder.file("river.inp") + " Not Found",
+                                        "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}}));
+    expectSessionAsBefore(before);
+    EXPECT_EQ(session().CurrentFile, shed);
 }
 
 } // namespace

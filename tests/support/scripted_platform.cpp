@@ -61,9 +61,9 @@ std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSett
     return pick;
 }
 
-ProgramEnd ScriptedPlatform::runProgramAndWait(const std::string& program,
-                                               const std::vector<std::string>& arguments,
-                                               const std::string& folder) {
+ProgramExit ScriptedPlatform::runProgramAndWait(const std::string& program,
+                                                const std::vector<std::string>& arguments,
+                                                const std::string& folder) {
     programsRun.push_back({program, arguments, folder});
     return runner_.runHiddenAndWait(program, arguments, folder);
 }

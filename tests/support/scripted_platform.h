@@ -19,8 +19,8 @@ public:
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override { ++endCount; }
     // Programs really run, as the program runs them; the start is recorded.
-    ProgramEnd runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                 const std::string& folder) override;
+    ProgramExit runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
+                                  const std::string& folder) override;
     void stopProgram() override {
         ++stopCount;
         runner_.stop();

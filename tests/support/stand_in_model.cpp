@@ -5,6 +5,10 @@
 //   copy EXT SOURCE    copies the file SOURCE to BASE.EXT
 //   wait-for PATH      waits until PATH exists (at most one minute)
 //   crash              ends at once, killed by a signal
+//   exit N             ends at once with the exit status N
+//   spawn-child FIFO   starts a child that opens the named pipe FIFO for writing, writes its
+//                      process number into it and lives on, holding it open, for at most one
+//                      minute; so the pipe's reader sees its end when the child is gone
 // BASE is the data file of the control file without its extension. The control file's first
 // line is kept in "stand_in_seen.txt", so a test sees which file the program was given.
 #include <chrono>
@@ -14,6 +18,9 @@
 #include <sstream>
 #include <string>
 #include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -36,6 +43,18 @@ std::string firstLine(const std::string& path) {
     return line;
 }
 
+// The child of "spawn-child": it outlives its parent unless something ends it.
+void liveOnHolding(const std::string& fifo) {
+    const int pipe = ::open(fifo.c_str(), O_WRONLY);
+    if (pipe < 0)
+        ::_exit(1);
+    const std::string pid = std::to_string(::getpid()) + "\n";
+    if (::write(pipe, pid.data(), pid.size()) < 0)
+        ::_exit(1);
+    std::this_thread::sleep_for(std::chrono::minutes(1));
+    ::_exit(0);
+}
+
 } // namespace
 
 int main(int, char** argv) {
@@ -54,6 +73,17 @@ int main(int, char** argv) {
         words >> verb;
         if (verb == "crash")
             std::raise(SIGKILL);
+        if (verb == "exit") {
+            int status = 0;
+            words >> status;
+            return status;
+        }
+        if (verb == "spawn-child") {
+            std::getline(words >> std::ws, argument);
+            if (::fork() == 0)
+                liveOnHolding(argument);
+            continue;
+        }
         if (verb == "wait-for") {
             std::getline(words >> std::ws, argument);
             for (int i = 0; i < 6000 && !fs::exists(argument); ++i)
