@@ -1,7 +1,10 @@
 // Saves a picture of every window of the program into a folder, for review. It runs in a
 // fresh program folder with the example watershed loaded, so windows show real data.
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -32,6 +35,11 @@ public:
 };
 
 bool save(QWidget* window, const QString& folder, const QString& name) {
+    // Offscreen, no window becomes active by itself; the windows that fill themselves when they
+    // become active (the schematic) are told so, as on a screen.
+    QEvent activate(QEvent::WindowActivate);
+    QApplication::sendEvent(window, &activate);
+    QApplication::processEvents();
     const bool ok = window->grab().save(QDir(folder).filePath(name + ".png"));
     std::cout << (ok ? "saved " : "FAILED ") << name.toStdString() << "\n";
     return ok;
@@ -74,6 +82,33 @@ int main(int argc, char* argv[]) {
     for (const QString& name : context.windows.registeredNames()) {
         if (QWidget* window = context.windows.ShowWindowAtOrigin(name))
             ok = save(window, target, name) && ok;
+    }
+
+    // A result plot, as the plot selection window draws it: the first storm at the outlet. The
+    // plot window may be modal, so it is pictured and closed as soon as it shows.
+    context.windows.unload("frmIO_Plots");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (auto* selection = context.windows.ShowWindowAtOrigin("frmGraphicsOutput")) {
+        auto* storms = selection->findChild<QComboBox*>("Cmbinp(3)");
+        auto* outlet = selection->findChild<QCheckBox*>("Chk7");
+        auto* display = selection->findChild<QPushButton*>("CmdPlot");
+        if (storms && storms->count() > 0 && outlet && display) {
+            storms->setCurrentIndex(0);
+            emit storms->activated(0);
+            outlet->click();
+            bool pictured = false;
+            const auto picture = [&] {
+                QWidget* plot = context.windows.loaded("frmIO_Plots");
+                if (pictured || !plot || !plot->isVisible())
+                    return;
+                pictured = true;
+                ok = save(plot, target, "frmIO_Plots_hydrograph") && ok;
+                plot->close();
+            };
+            QTimer::singleShot(0, picture);
+            display->click();
+            picture();
+        }
     }
     return ok ? 0 : 1;
 }
