@@ -23,10 +23,10 @@
 #include "tables/value_grid_window.h"
 #include <QClipboard>
 
-#include <QKeyEvent>
-#include <QTableWidget>
 #include "network/sub_area_editor.h"
 #include "tables/alternate_editor.h"
+#include <QKeyEvent>
+#include <QTableWidget>
 
 #include <QComboBox>
 
@@ -40,8 +40,8 @@ public:
     std::optional<std::string> showOpenDialog(const FileDialogSettings&) override { return {}; }
     std::optional<std::string> showSaveDialog(const FileDialogSettings&) override { return {}; }
     void endProgram() override {}
-    ProgramExit runProgramAndWait(const std::string&, const std::vector<std::string>&,
-                                  const std::string&) override {
+    ProgramExit runProgramAndWait(const std::string&, const std::vector<std::string>&, const std::string&,
+                                  const std::vector<std::string>&) override {
         return {};
     }
     void stopProgram() override {}

@@ -3,11 +3,13 @@
 #include "editing/numbers.h"
 #include "session/text_file.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 namespace brooklet {
 namespace {
@@ -67,13 +69,60 @@ const ExternalProgram ConverterProgram = {"Flume Input Converter (Flume_Converte
 const ExternalProgram ReformatterProgram = {"HEC-RAS Reformatter (Flume_HECRAS_Rating.exe)",
                                             "Flume_HECRAS_Rating.exe", "flume_HECRAS.fil"};
 
-WriteResult WriteControlFile(const Session& session, const std::string& ControlFile) {
-    return writeLines(session.ProgramFolder + ControlFile, {session.CurrentFile, ""});
+std::optional<std::string> WindowsCodePageName(const std::string& name) {
+    // The letters of code page 1252 between 0x80 and 0x9F; 0 where the code page has none. From
+    // 0xA0 on, the code page holds the same letters as the first 256 of Unicode.
+    static const char32_t High[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                      0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+    std::string text;
+    for (size_t i = 0; i < name.size();) {
+        const auto lead = static_cast<unsigned char>(name[i]);
+        const int length = lead < 0x80           ? 1
+                           : (lead >> 5) == 0x6  ? 2
+                           : (lead >> 4) == 0xE  ? 3
+                           : (lead >> 3) == 0x1E ? 4
+                                                 : 0;
+        if (length == 0 || i + length > name.size())
+            return std::nullopt;
+        char32_t letter = length == 1 ? lead : lead & (0x7F >> length);
+        for (int k = 1; k < length; ++k) {
+            const auto next = static_cast<unsigned char>(name[i + k]);
+            if ((next & 0xC0) != 0x80)
+                return std::nullopt;
+            letter = (letter << 6) | (next & 0x3F);
+        }
+        i += size_t(length);
+        if (letter < 0x80 || (letter >= 0xA0 && letter <= 0xFF)) {
+            text += static_cast<char>(letter);
+            continue;
+        }
+        const char32_t* found = std::find(std::begin(High), std::end(High), letter);
+        if (letter == 0 || found == std::end(High))
+            return std::nullopt;
+        text += static_cast<char>(0x80 + (found - std::begin(High)));
+    }
+    return text;
 }
 
-std::optional<BoxRequest> PrepareProgramStart(const Session& session, const std::string& ControlFile) {
+WriteResult WriteControlFile(const Session& session, const std::string& ControlFile, bool forWindowsProgram) {
+    std::string file = session.CurrentFile;
+    if (forWindowsProgram) {
+        const auto converted = WindowsCodePageName(file);
+        if (!converted)
+            return {false, "the name " + file +
+                               " holds letters that a Windows program started through Wine "
+                               "cannot be given; save the file under a name of Western European letters"};
+        file = *converted;
+    }
+    return writeLines(session.ProgramFolder + ControlFile, {file, ""});
+}
+
+std::optional<BoxRequest> PrepareProgramStart(const Session& session, const std::string& ControlFile,
+                                              bool forWindowsProgram) {
     const std::string notStarted = " " + session.ToolName + " was not started.";
-    const WriteResult written = WriteControlFile(session, ControlFile);
+    const WriteResult written = WriteControlFile(session, ControlFile, forWindowsProgram);
     if (!written.ok)
         return BoxRequest{"The control file " + session.ProgramFolder + ControlFile +
                               " could not be written (" + written.error + ")." + notStarted,
@@ -134,6 +183,9 @@ ProgramStart PlanProgramStart(const Session& session, const std::string& Program
     if (NeedsWine(session.ProgramFolder + ProgramFileName(session, Program))) {
         start.program = FindOnPath("wine");
         start.arguments = {relative};
+        // Wine reads names in the Windows code page of its locale: under the neutral locale that
+        // is the Western European one, in which the control file names the data file.
+        start.environment = {"LC_ALL=C.UTF-8"};
         start.throughWine = true;
         start.wineMissing = start.program.empty();
     }

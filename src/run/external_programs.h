@@ -23,13 +23,21 @@ extern const ExternalProgram ModelProgram;
 extern const ExternalProgram ConverterProgram;
 extern const ExternalProgram ReformatterProgram;
 
-// Writes the control file: CurrentFile, then an empty line.
-WriteResult WriteControlFile(const Session& session, const std::string& ControlFile);
+// Writes the control file: CurrentFile, then an empty line. For a Windows program the name is
+// written in the Windows code page it reads names in; false in `ok` when that is not possible.
+WriteResult WriteControlFile(const Session& session, const std::string& ControlFile,
+                             bool forWindowsProgram = false);
+
+// A name, given in UTF-8 as this system keeps names, in the Western European Windows code page
+// (1252) that a Windows program started through Wine reads it in; nothing when the name holds a
+// letter that code page has not, or is not UTF-8.
+std::optional<std::string> WindowsCodePageName(const std::string& name);
 
 // Makes ready for a start of the program ToolName: writes the control file and deletes the
 // result files of CurrentFile, so that results of an earlier run never pass for this one. The
 // box to show, when either failed and the program must not start.
-std::optional<BoxRequest> PrepareProgramStart(const Session& session, const std::string& ControlFile);
+std::optional<BoxRequest> PrepareProgramStart(const Session& session, const std::string& ControlFile,
+                                              bool forWindowsProgram = false);
 
 // The program's file name in the program folder. Where programs carry no ".exe", the same name
 // without it is taken when only that one is there.
@@ -47,8 +55,9 @@ struct ProgramStart {
     std::string program;
     std::vector<std::string> arguments;
     std::string folder;
-    bool throughWine = false; // a Windows program started through Wine
-    bool wineMissing = false; // a Windows program and no Wine on the PATH: it cannot start
+    std::vector<std::string> environment; // entries "NAME=value" set for the program
+    bool throughWine = false;             // a Windows program started through Wine
+    bool wineMissing = false;             // a Windows program and no Wine on the PATH: it cannot start
 };
 ProgramStart PlanProgramStart(const Session& session, const std::string& Program);
 

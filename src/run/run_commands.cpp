@@ -30,8 +30,8 @@ ProgramExit CallShell(AppContext& context, const ProgramStart& Command) {
     Hourglass hourglass;
     context.ProgramRunning = true;
     context.windows.runMainActivation();
-    const ProgramExit exit =
-        context.platform.runProgramAndWait(Command.program, Command.arguments, Command.folder);
+    const ProgramExit exit = context.platform.runProgramAndWait(Command.program, Command.arguments,
+                                                                Command.folder, Command.environment);
     context.ProgramRunning = false;
     context.windows.runMainActivation();
     return exit;
@@ -45,7 +45,7 @@ bool StartProgramAndWait(AppContext& context, const std::string& ControlFile, co
                       "the PATH.");
         return false;
     }
-    if (const auto refused = PrepareProgramStart(session, ControlFile)) {
+    if (const auto refused = PrepareProgramStart(session, ControlFile, start.throughWine)) {
         context.platform.showBox(*refused);
         return false;
     }

@@ -125,9 +125,11 @@ public:
     // ended, the windows living on meanwhile. The program is a path relative to the folder
     // ("./flume.exe") or the full path of a program. The folder is taken byte for byte, whatever
     // its encoding. One program runs at a time, in a process group of its own.
+    // The environment entries ("NAME=value") are set for the program on top of the program's own.
     virtual ProgramExit runProgramAndWait(const std::string& program,
                                           const std::vector<std::string>& arguments,
-                                          const std::string& folder) = 0;
+                                          const std::string& folder,
+                                          const std::vector<std::string>& environment) = 0;
     // Ends the program that runs now, if any, with every program it started that still runs in
     // its process group; its wait then ends with ProgramEnd::Stopped.
     virtual void stopProgram() = 0;

@@ -14,6 +14,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 
 #include <algorithm>
 
@@ -127,13 +128,24 @@ std::optional<std::string> QtPlatform::showSaveDialog(const FileDialogSettings& 
 
 ProgramExit ProgramRunner::runHiddenAndWait(const std::string& program,
                                             const std::vector<std::string>& arguments,
-                                            const std::string& folder) {
+                                            const std::string& folder,
+                                            const std::vector<std::string>& environment) {
     QProcess process;
     process.setProgram(pathToQt(program));
     QStringList qtArguments;
     for (const std::string& argument : arguments)
         qtArguments << pathToQt(argument);
     process.setArguments(qtArguments);
+    if (!environment.empty()) {
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        for (const std::string& entry : environment) {
+            const size_t equals = entry.find('=');
+            variables.insert(
+                QString::fromStdString(entry.substr(0, equals)),
+                QString::fromStdString(equals == std::string::npos ? "" : entry.substr(equals + 1)));
+        }
+        process.setProcessEnvironment(variables);
+    }
 #ifdef Q_OS_UNIX
     // The program leads a process group of its own, which the programs it starts join, so that
     // a stop ends them all. A folder name need not be valid in any encoding, and a Qt string
@@ -403,8 +415,9 @@ std::optional<Bitmap> QtPlatform::clipboardBitmap() {
 
 ProgramExit QtPlatform::runProgramAndWait(const std::string& program,
                                           const std::vector<std::string>& arguments,
-                                          const std::string& folder) {
-    return runner_.runHiddenAndWait(program, arguments, folder);
+                                          const std::string& folder,
+                                          const std::vector<std::string>& environment) {
+    return runner_.runHiddenAndWait(program, arguments, folder, environment);
 }
 
 void QtPlatform::endProgram() {

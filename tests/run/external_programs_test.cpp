@@ -213,3 +213,41 @@ TEST_F(ExternalProgramsTest, TheQuestionBeforeAResultFileIsWrittenOverAnotherNam
 
 } // namespace
 } // namespace brooklet::test
+
+namespace brooklet::test {
+namespace {
+
+TEST(WindowsCodePageNameTest, WesternLettersTakeTheirPlaceInTheCodePage) {
+    EXPECT_EQ(WindowsCodePageName("/tmp/plain name.inp"), "/tmp/plain name.inp");
+    EXPECT_EQ(WindowsCodePageName("/tmp/M\xC3\xBChl Bach/Sch\xC3\xA4"
+                                  "fer.inp"),
+              "/tmp/M\xFChl Bach/Sch\xE4"
+              "fer.inp");
+    EXPECT_EQ(WindowsCodePageName("\xE2\x82\xAC \xC5\x92 \xC5\xB8"),
+              "\x80 \x8C \x9F"); // euro, OE, Y diaeresis
+}
+
+TEST(WindowsCodePageNameTest, ALetterTheCodePageHasNotOrBytesThatAreNoUtf8GiveNothing) {
+    EXPECT_EQ(WindowsCodePageName("/tmp/\xD0\x96.inp"), std::nullopt); // a Cyrillic letter
+    EXPECT_EQ(WindowsCodePageName("/tmp/\xC2\x81.inp"), std::nullopt); // a control the code page leaves out
+    EXPECT_EQ(WindowsCodePageName("/tmp/\xFC.inp"), std::nullopt);     // Latin-1, not UTF-8
+    EXPECT_EQ(WindowsCodePageName("/tmp/\xC3"), std::nullopt);         // cut short
+}
+
+TEST(WindowsCodePageNameTest, AControlFileForAWindowsProgramNamesTheFileInItsCodePage) {
+    ProgramFolder folder;
+    Session session;
+    StartSession(session, folder.path());
+    session.CurrentFile = folder.path() + "/Sch\xC3\xA4"
+                                          "fer.inp";
+    ASSERT_TRUE(WriteControlFile(session, "flume.fil", true).ok);
+    EXPECT_EQ(bytesOf(folder.file("flume.fil")), folder.path() + "/Sch\xE4"
+                                                                 "fer.inp\r\n\r\n");
+    session.CurrentFile = folder.path() + "/\xD0\x96.inp";
+    const WriteResult refused = WriteControlFile(session, "flume.fil", true);
+    EXPECT_FALSE(refused.ok);
+    EXPECT_NE(refused.error.find("cannot be given"), std::string::npos);
+}
+
+} // namespace
+} // namespace brooklet::test

@@ -63,9 +63,10 @@ std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSett
 
 ProgramExit ScriptedPlatform::runProgramAndWait(const std::string& program,
                                                 const std::vector<std::string>& arguments,
-                                                const std::string& folder) {
-    programsRun.push_back({program, arguments, folder});
-    return runner_.runHiddenAndWait(program, arguments, folder);
+                                                const std::string& folder,
+                                                const std::vector<std::string>& environment) {
+    programsRun.push_back({program, arguments, folder, environment});
+    return runner_.runHiddenAndWait(program, arguments, folder, environment);
 }
 
 namespace {

@@ -20,7 +20,8 @@ public:
     void endProgram() override { ++endCount; }
     // Programs really run, as the program runs them; the start is recorded.
     ProgramExit runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                  const std::string& folder) override;
+                                  const std::string& folder,
+                                  const std::vector<std::string>& environment) override;
     void stopProgram() override {
         ++stopCount;
         runner_.stop();
@@ -87,11 +88,12 @@ public:
     };
     std::vector<PrintJob> printJobs;
     std::vector<PrinterDialogSettings> printerDialogs;
-    // Every program started: its program, arguments and folder.
+    // Every program started: its program, arguments, folder and environment entries.
     struct ProgramRun {
         std::string program;
         std::vector<std::string> arguments;
         std::string folder;
+        std::vector<std::string> environment;
     };
     std::vector<ProgramRun> programsRun;
     int stopCount = 0;
