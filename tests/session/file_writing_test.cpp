@@ -222,6 +222,21 @@ TEST_F(LoadFaultTest, ReformattedCrossSectionsThatCannotBeWrittenLeaveTheWorkFil
     EXPECT_EQ(bytesOf(session.WorkFilePath[7]), crlf({"Stream Cross Section:", "  XS1  a"}));
 }
 
+TEST_F(LoadFaultTest, ASaveWhoseFileNameWorkFileCannotBeWrittenSaysSoBesideTheSavedWords) {
+    writeBytes(session.WorkFilePath[11], crlf({"Sub-Area:", "  A1"}));
+    session.CurrentFile = file;
+    session.DataChanged = true;
+    faults.refuseFile("~filename.tmp.part");
+    const SaveResult result = SaveInputFile(session);
+    EXPECT_TRUE(result.ok);
+    EXPECT_EQ(result.box.text,
+              "Data Saved in file: " + file + "\r\rThe work file " + session.WorkFilePath[16] +
+                  " could not be written (No space left on device): ReOpen Last Session will "
+                  "not find this file.");
+    EXPECT_EQ(bytesOf(file), crlf({"Sub-Area:", "  A1", ""}));
+    EXPECT_FALSE(session.DataChanged);
+}
+
 TEST_F(LoadFaultTest, AStartInAFolderWhoseWorkFolderIsAFileSaysSo) {
     const std::string start = folder.file("elsewhere");
     createFolder(start);
