@@ -224,6 +224,33 @@ TEST_F(WorkSafetyTest, AFileThatStopsEarlyIsNotOpenedWhenItsNoteCannotBeWritten)
     EXPECT_EQ(bytesOf(shed), crlf({"Sub-Area:", "  A1        R1", "", "Nonsense:", "  kept", ""}));
 }
 
+TEST_F(WorkSafetyTest, ImportedCrossSectionsThatCannotBeWrittenLeaveTheSessionAsItWas) {
+    startMain();
+    openFile(inputFile("shed.inp", Shed));
+    const std::string reformatter = folder.file("Flume_HECRAS_Rating.exe");
+    fs::copy_file(BROOKLET_STAND_IN_MODEL, reformatter, fs::copy_options::overwrite_existing);
+    fs::permissions(reformatter, fs::perms::owner_all);
+    writeBytes(folder.file("reformatted.txt"),
+               crlf({"HEC-RAS", "REFORMATTED", "", "RIVER 1", "Stream Cross Section:", "  XS9  a"}));
+    writeBytes(folder.file("stand_in_orders.txt"),
+               crlf({"copy inp " + folder.file("reformatted.txt"), "lines err 3"}));
+    faults.refuseFile("~Xsect.tmp.part");
+    platform.boxes.clear();
+    platform.openPicks.push_back(folder.file("river.txt"));
+    clickMenuItem("mnuFileItem(7)");
+
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], (BoxRequest{"The cross sections of " + folder.file("river.inp") +
+                                                 " could not be added to the work file " + workFile(7) +
+                                                 " (No space left on device). The session is as it was.",
+                                             "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    // The session was closed before the import, and stays so: nothing to save under any name.
+    EXPECT_EQ(session().CurrentFile, UntitledFile);
+    EXPECT_FALSE(session().DataChanged);
+    EXPECT_EQ(bytesOf(workFile(7)), "");
+    EXPECT_FALSE(saveEnabled());
+}
+
 #ifndef _WIN32
 
 TEST_F(WorkSafetyTest, SavingAFileOfTwoNamesUpdatesBothAndKeepsACopyAndThePermissions) {
