@@ -8,23 +8,40 @@
 #include "session/input_file.h"
 #include "session/text_file.h"
 
+#include <optional>
 #include <string>
 
 namespace brooklet {
 
-void LoadInputFile(AppContext& context) {
+bool LoadInputFile(AppContext& context) {
     Session& session = context.session;
     if (session.CurrentFile.empty())
-        return;
+        return true;
     const LoadResult result = brooklet::LoadInputFile(session);
+    if (result.failed) {
+        // Nothing of the file is in the work files: no save may be made from it under its name.
+        context.platform.showBox(*result.box);
+        session.CurrentFile = UntitledFile;
+        context.windows.ShowWindowAtOrigin("frmMain");
+        return false;
+    }
+    std::optional<BoxRequest> mergeFailed;
     if (!session.isUntitled()) {
         // The land uses the file brings along stay known to the local land use file.
         bool changed = false;
-        MergeLocalLandUse(session, changed);
+        if (const WriteResult merged = MergeLocalLandUse(session, changed); !merged.ok)
+            mergeFailed =
+                BoxRequest{"The land uses that " + session.CurrentFile +
+                               " brings along could not be added to the local land use file " +
+                               session.LocalLandUseFile + " (" + merged.error + "); it is as it was.",
+                           DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation};
     }
     if (result.box)
         context.platform.showBox(*result.box);
+    if (mergeFailed)
+        context.platform.showBox(*mergeFailed);
     context.windows.ShowWindowAtOrigin(session.isUntitled() ? "frmMain" : "frmFlume");
+    return true;
 }
 
 namespace {
@@ -57,13 +74,24 @@ bool SaveInputFile(AppContext& context) {
     // fails puts the section back as it was, so the work files are untouched.
     const std::string& landUseWorkFile = session.WorkFilePath[LocalLandUseSection];
     const auto landUseBefore = readFileBytes(landUseWorkFile);
-    BuildLocalLandUseSection(session);
-    const SaveResult result = brooklet::SaveInputFile(session);
+    if (const WriteResult built = BuildLocalLandUseSection(session); !built.ok) {
+        context.platform.showBox(
+            {"The work file " + landUseWorkFile + " could not be written (" + built.error + "). The file " +
+                 session.CurrentFile +
+                 " was not saved; the file and the data of this session are as they were.",
+             SystemBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation});
+        return false;
+    }
+    SaveResult result = brooklet::SaveInputFile(session);
     if (!result.ok) {
+        WriteResult restored;
         if (landUseBefore)
-            writeFileAtomically(landUseWorkFile, *landUseBefore);
-        else
-            deleteFile(landUseWorkFile);
+            restored = writeFileAtomically(landUseWorkFile, *landUseBefore);
+        else if (deleteFile(landUseWorkFile); fileExists(landUseWorkFile))
+            restored = {false, "it could not be deleted"};
+        if (!restored.ok)
+            result.box.text += " Only the section \"LOCAL LAND USE:\" could not be put back as it was (" +
+                               restored.error + ").";
     }
     context.platform.showBox(result.box);
     return result.ok;
@@ -126,7 +154,8 @@ void ConvertOldData(AppContext& context, frmMain& main) {
     session.DataChanged = false;
     if (!session.isUntitled()) {
         session.CurrentFile = converted;
-        LoadInputFile(context);
+        if (!LoadInputFile(context))
+            return;
         main.setFileItemEnabled(14, true);
         main.setFileItemEnabled(15, true);
         session.DataChanged = false;
@@ -161,9 +190,17 @@ void ImportHecRas(AppContext& context, frmMain& main) {
     } else {
         main.CloseInputFile();
     }
-    session.DataChanged = true;
     session.CurrentFile = reformatted;
-    AppendReformattedSections(session);
+    if (const WriteResult appended = AppendReformattedSections(session); !appended.ok) {
+        context.platform.showBox({"The cross sections of " + session.CurrentFile +
+                                      " could not be added to the work file " +
+                                      session.WorkFilePath[CrossSectionSection] + " (" + appended.error +
+                                      "). The session is as it was.",
+                                  DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation});
+        session.CurrentFile = joinSession ? oldName : UntitledFile;
+        return;
+    }
+    session.DataChanged = true;
     context.windows.ShowWindowAtOrigin("frmFlume");
     if (joinSession)
         session.CurrentFile = oldName;

@@ -11,7 +11,9 @@ class frmMain;
 // Loads CurrentFile into the work files (its caller has closed the windows of the session
 // before), merges the file's land uses into the local land use file, shows the load's box if it has one, then
 // opens the identifier editor for a named file, or brings up the main window for an untitled session.
-void LoadInputFile(AppContext& context);
+// A load whose work files could not be written says why, leaves the session untitled with its work
+// files as they were, brings up the main window and gives False.
+bool LoadInputFile(AppContext& context);
 
 // Regenerates the section "LOCAL LAND USE:", saves the work files into CurrentFile and shows
 // the box that says so, or why it failed. A file whose load stopped early is written only when

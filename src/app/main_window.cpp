@@ -74,7 +74,8 @@ frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), co
     Session& session = context_.session;
     session.ToolName.clear();
     session.EnglishUnits = true;
-    StartSession(session, currentFolder());
+    if (const auto box = StartSession(session, currentFolder()))
+        context_.platform.showBox(*box);
     StandardLandUse(); // the built-in curve numbers, ready before the first window needs them
     move(0, 0);
     Form_Activate();
@@ -401,13 +402,20 @@ void frmMain::openExistingFile() {
         if (!chosen)
             return;
         context_.windows.closeSessionWindows();
+        const std::string nameBefore = session.CurrentFile;
+        const std::string outputBefore = session.OutputPath;
         session.CurrentFile = *chosen;
         session.OutputPath = BaseName(session.CurrentFile) + "out";
-        LoadInputFile(context_);
-        fileItem(14)->setEnabled(true);
-        fileItem(15)->setEnabled(true);
-        session.DataChanged = false;
-        context_.windows.ShowWindowAtOrigin("frmFlume");
+        if (LoadInputFile(context_)) {
+            fileItem(14)->setEnabled(true);
+            fileItem(15)->setEnabled(true);
+            session.DataChanged = false;
+            context_.windows.ShowWindowAtOrigin("frmFlume");
+        } else {
+            // Nothing of the file was loaded: the session goes on as it was before the command.
+            session.CurrentFile = nameBefore;
+            session.OutputPath = outputBefore;
+        }
     }
     endFileCommand();
 }

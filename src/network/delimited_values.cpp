@@ -1,5 +1,7 @@
 #include "network/delimited_values.h"
 
+#include "session/text_file.h"
+
 namespace brooklet {
 namespace {
 
@@ -14,6 +16,9 @@ bool isLineEnd(char c) {
 } // namespace
 
 const std::string ClosingRecord = "\"\"";
+
+DelimitedReader::DelimitedReader(std::string bytes)
+    : bytes_(std::move(bytes)), pos_(byteOrderMarkLength(bytes_)) {}
 
 bool DelimitedReader::atLineEnd() const {
     return pos_ >= bytes_.size() || isLineEnd(bytes_[pos_]);

@@ -20,7 +20,8 @@ namespace brooklet {
 
 class DelimitedReader {
 public:
-    explicit DelimitedReader(std::string bytes) : bytes_(std::move(bytes)) {}
+    // A UTF-8 byte-order mark at the start is passed over.
+    explicit DelimitedReader(std::string bytes);
 
     // True when no value is left.
     bool atEnd();

@@ -103,13 +103,13 @@ std::string MergedLandUseLine(const LandUseRow& row) {
     return line;
 }
 
-void MergeLocalLandUse(const Session& session, bool& Changed) {
+WriteResult MergeLocalLandUse(const Session& session, bool& Changed) {
     Changed = false;
     std::vector<LandUseRow> table = ReadLocalLandUseFile(session.LocalLandUseFile, BlankName::SkipItem);
 
     const auto section = readFileBytes(session.WorkFilePath[LocalLandUseSection]);
     if (!section)
-        return;
+        return {};
 
     // Every name known so far, in the form the comparison takes.
     std::unordered_set<std::string> known;
@@ -129,13 +129,15 @@ void MergeLocalLandUse(const Session& session, bool& Changed) {
         table.push_back(std::move(added));
     }
     if (!Changed)
-        return;
+        return {};
 
     std::vector<std::string> lines;
     lines.reserve(table.size());
     for (const LandUseRow& row : table)
         lines.push_back(MergedLandUseLine(row));
-    writeLines(session.LocalLandUseFile, lines);
+    const WriteResult written = writeLines(session.LocalLandUseFile, lines, LocalFileWriting(session));
+    Changed = written.ok;
+    return written;
 }
 
 std::string LocalLandUseSectionRecord(const LandUseRow& row) {
@@ -146,11 +148,11 @@ std::string LocalLandUseSectionRecord(const LandUseRow& row) {
     return record;
 }
 
-void BuildLocalLandUseSection(const Session& session) {
+WriteResult BuildLocalLandUseSection(const Session& session) {
     const std::vector<LandUseRow> table =
         ReadLocalLandUseFile(session.LocalLandUseFile, BlankName::DropRecord);
     if (table.empty())
-        return; // no local land use for any record to name
+        return {}; // no local land use for any record to name
     std::vector<bool> used(table.size(), false);
 
     // The first row of each trimmed name: a record marks only the first row it matches.
@@ -176,14 +178,14 @@ void BuildLocalLandUseSection(const Session& session) {
     markUsedBy(AlternateSection, isAlternateLandUseLine);
     markUsedBy(SubAreaSection, isSubAreaLandUseLine);
     if (!anyUsed)
-        return;
+        return {};
 
     std::vector<std::string> lines{"LOCAL LAND USE:"};
     for (size_t row = 0; row < table.size(); ++row)
         if (used[row])
             lines.push_back(LocalLandUseSectionRecord(table[row]));
     lines.emplace_back();
-    writeLines(session.WorkFilePath[LocalLandUseSection], lines);
+    return writeLines(session.WorkFilePath[LocalLandUseSection], lines);
 }
 
 } // namespace brooklet

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "network/local_table.h"
+#include "session/text_file.h"
 
 namespace brooklet {
 
@@ -56,15 +57,17 @@ std::string MergedLandUseLine(const LandUseRow& row);
 // rewritten whole, row by row in the merged form. A section as the save writes it has no
 // commas, so each of its lines, the header line first, comes as one value, and the whole line
 // is the name that is kept. Work file 15 is not altered. Changed is set False on entry and True
-// when the file was rewritten.
-void MergeLocalLandUse(const Session& session, bool& Changed);
+// when the file was rewritten; a file that cannot be rewritten stays as it was, and the result
+// says why.
+WriteResult MergeLocalLandUse(const Session& session, bool& Changed);
 
 // The first step of every save. Rows of the local land use file whose name a land use record
 // of the alternates (first 8 characters "LAND USE") or of the sub-areas (columns 21-29 "LAND
 // AREA") names in columns 31-65, case counting, are written to work file 15 under the line
 // "LOCAL LAND USE:", in the file's order, closed by a blank line. When no row is named, work file
-// 15 is left as it is, so a section that came with the input file stays untouched.
-void BuildLocalLandUseSection(const Session& session);
+// 15 is left as it is, so a section that came with the input file stays untouched, and so it is
+// when the work file cannot be written (the result says why).
+WriteResult BuildLocalLandUseSection(const Session& session);
 
 // A row of the section "LOCAL LAND USE:": the name in columns 1-50, then the four values in
 // five columns each with their point added; a longer value pushes what follows to the right.

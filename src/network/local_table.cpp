@@ -1,8 +1,13 @@
 #include "network/local_table.h"
 
 #include "editing/numbers.h"
+#include "session/section_table.h"
 
 namespace brooklet {
+
+WriteOptions LocalFileWriting(const Session& session) {
+    return WriteOptions{true, session.WorkFolder};
+}
 
 void LocalTable::reset(int previousAtLoad) {
     Rows.redim(LocalTableFields, 1);

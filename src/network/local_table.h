@@ -7,8 +7,16 @@
 #include <string>
 
 #include "editing/text_table.h"
+#include "session/text_file.h"
 
 namespace brooklet {
+
+struct Session;
+
+// How the local land use and soil files are written: they are the engineer's own, so their data
+// reach the disk before a write counts as done, and a file of several names is written in place,
+// a copy of the old one kept in the work folder.
+WriteOptions LocalFileWriting(const Session& session);
 
 constexpr int LocalTableFields = 5;
 

@@ -75,18 +75,23 @@ LoadResult LoadInputFile(Session& session) {
     LoadResult result;
     if (session.CurrentFile.empty())
         return result;
-    ClearWorkFiles(session);
 
     auto bytes = readFileBytes(session.CurrentFile);
     if (!bytes) {
+        ClearWorkFiles(session);
         result.box = BoxRequest{"Error --- File " + session.CurrentFile + " Not Found", DefaultBoxTitle,
                                 BoxButtons::Ok, BoxIcon::Exclamation};
         session.CurrentFile = UntitledFile;
         return result;
     }
 
+    // The sections are written beside the work files first and take their places only when every
+    // one of them was written: a work folder that takes none or only some of them (no folder, no
+    // permission, a full disk) fails the load, and the work files stay as they were.
+    FileSet workFiles;
+    WriteResult written;
     LineReader input(std::move(*bytes));
-    while (!input.atEnd()) {
+    while (written.ok && !input.atEnd()) {
         std::string line = input.readLine();
         if (isBlankLine(line))
             continue;
@@ -100,15 +105,30 @@ LoadResult LoadInputFile(Session& session) {
             break;
         }
         bool complete = false;
-        CopySectionToWorkFile(input, line, session.WorkFilePath[section], complete);
+        written = CopySectionToWorkFile(input, line, session.WorkFilePath[section], complete, workFiles);
         if (complete)
             break;
     }
-
-    if (!session.isUntitled())
-        WriteFileNameWorkFile(session);
-    if (result.stoppedAtLine > 0)
-        writeLines(partlyReadNote(session), {session.CurrentFile, std::to_string(result.stoppedAtLine)});
+    const std::string fileName = session.CurrentFile + "\r\n";
+    if (written.ok && !session.isUntitled())
+        written = workFiles.add(session.WorkFilePath[FileNameWorkFile], {fileName});
+    // Without the note a later save would overwrite the rest of the file without a question.
+    const std::string note = fileName + std::to_string(result.stoppedAtLine) + "\r\n";
+    if (written.ok && result.stoppedAtLine > 0)
+        written = workFiles.add(partlyReadNote(session), {note});
+    if (written.ok) {
+        ClearWorkFiles(session);
+        written = workFiles.place();
+    }
+    if (!written.ok) {
+        result.failed = true;
+        result.stoppedAtLine = 0;
+        result.box =
+            BoxRequest{"The file " + session.CurrentFile +
+                           " was not opened: its sections could not be written to the work folder " +
+                           session.WorkFolder + " (" + written.error + "). The session is as it was.",
+                       DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation};
+    }
     return result;
 }
 
@@ -124,7 +144,8 @@ void ForgetPartlyRead(const Session& session) {
     deleteFile(partlyReadNote(session));
 }
 
-void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete) {
+WriteResult CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path,
+                                  bool& Complete, FileSet& WorkFiles) {
     Complete = false;
     const std::string header = std::move(Line) + "\r\n";
     // Records that end with CR LF, as a saved file's do, are copied as they stand in the input;
@@ -152,14 +173,14 @@ void CopySectionToWorkFile(LineReader& input, std::string Line, const std::strin
         records += "\r\n";
     }
     // A second section with the same header replaces the first.
-    writeFileAtomically(Path,
-                        {header, asTheyStand ? input.heldBytes(first, last) : std::string_view(records)});
+    return WorkFiles.add(Path,
+                         {header, asTheyStand ? input.heldBytes(first, last) : std::string_view(records)});
 }
 
-void AppendReformattedSections(const Session& session) {
+WriteResult AppendReformattedSections(const Session& session) {
     auto bytes = readFileBytes(session.CurrentFile);
     if (!bytes || bytes->empty())
-        return;
+        return {};
     LineReader input(std::move(*bytes));
     // The reformatter's first four lines are its own; the fifth is the section header line.
     std::string header;
@@ -174,7 +195,7 @@ void AppendReformattedSections(const Session& session) {
     while (!input.atEnd())
         added.push_back(input.readLine());
     const std::string before = readFileBytes(workFile).value_or(std::string());
-    writeFileAtomically(workFile, before + joinLines(added));
+    return writeFileAtomically(workFile, before + joinLines(added));
 }
 
 SaveResult SaveInputFile(Session& session) {
@@ -208,7 +229,10 @@ SaveResult SaveInputFile(Session& session) {
         pieces.push_back(CrLf);
     }
 
-    const WriteResult written = writeFileAtomically(session.CurrentFile, pieces);
+    // The engineer's file reaches the disk before the save says so; a file of several names is
+    // written in place, so every name sees the new data, after a copy of it is kept.
+    const WriteResult written =
+        writeFileAtomically(session.CurrentFile, pieces, WriteOptions{true, session.WorkFolder});
     if (!written.ok) {
         return {false,
                 BoxRequest{"The file " + session.CurrentFile + " could not be saved (" + written.error +
@@ -216,14 +240,17 @@ SaveResult SaveInputFile(Session& session) {
                            SystemBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation}};
     }
 
-    WriteFileNameWorkFile(session);
+    std::string saved = "Data Saved in file: " + session.CurrentFile;
+    const WriteResult named = WriteFileNameWorkFile(session);
+    if (!named.ok)
+        saved += "\r\rThe work file " + session.WorkFilePath[FileNameWorkFile] + " could not be written (" +
+                 named.error + "): ReOpen Last Session will not find this file.";
     session.DataChanged = false;
     // The file now holds the whole session: it is no longer partly read.
     if (PartlyReadLine(session, session.CurrentFile))
         ForgetPartlyRead(session);
     DeleteResultFiles(session.CurrentFile);
-    return {true, BoxRequest{"Data Saved in file: " + session.CurrentFile, SystemBoxTitle, BoxButtons::Ok,
-                             BoxIcon::None}};
+    return {true, BoxRequest{saved, SystemBoxTitle, BoxButtons::Ok, BoxIcon::None}};
 }
 
 } // namespace brooklet

@@ -18,11 +18,15 @@ struct LoadResult {
     std::optional<BoxRequest> box;
     // The line at which reading stopped before the end of the file; 0 when it was read whole.
     int stoppedAtLine = 0;
+    // The work folder did not take the file's sections: nothing of it was loaded, the work files
+    // are as they were, and the box says why.
+    bool failed = false;
 };
 
 // Cuts the file named by CurrentFile into the work files. A missing file makes the session
 // untitled; an unknown header stops the load and keeps what was read before it. For a named
-// file, work file 16 then holds its path.
+// file, work file 16 then holds its path. A load whose work files cannot all be written fails
+// whole and changes nothing.
 LoadResult LoadInputFile(Session& session);
 
 // The line at which the load of File stopped, when the work files hold only the part of it
@@ -33,11 +37,14 @@ std::optional<int> PartlyReadLine(const Session& session, const std::string& Fil
 void ForgetPartlyRead(const Session& session);
 
 // Copies the section whose header line is Line, and the records behind it up to a blank line
-// or the end of the input, to the work file at Path, replacing what it held.
-void CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path, bool& Complete);
+// or the end of the input, to the work file at Path among the load's WorkFiles, replacing what
+// an earlier section of that header gave it.
+WriteResult CopySectionToWorkFile(LineReader& input, std::string Line, const std::string& Path,
+                                  bool& Complete, FileSet& WorkFiles);
 
-// Adds the cross sections that the reformatter wrote at CurrentFile to work file 7.
-void AppendReformattedSections(const Session& session);
+// Adds the cross sections that the reformatter wrote at CurrentFile to work file 7. When the work
+// file cannot be written it is left as it was.
+WriteResult AppendReformattedSections(const Session& session);
 
 struct SaveResult {
     bool ok = true;

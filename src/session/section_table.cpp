@@ -3,7 +3,10 @@
 #include "base/text.h"
 #include "session/text_file.h"
 
+#include <filesystem>
 #include <vector>
+
+namespace fs = std::filesystem;
 
 namespace brooklet {
 namespace {
@@ -50,6 +53,20 @@ const std::array<std::string, WorkFileCount + 1> WorkFileNames = {
 const std::array<std::string, ResultExtensionCount + 1> Extensions = {"",    "inp", "",    "",   "out",
                                                                       "err", "dbg", "hyd", "ecn"};
 
+// Makes a folder that is missing; why it could not be made, if so.
+std::optional<std::string> makeFolder(const std::string& path) {
+    if (folderExists(path))
+        return std::nullopt;
+    const fs::path folder = fs::path(path).parent_path(); // the path ends in a separator
+    std::error_code ec;
+    if (fs::exists(folder, ec))
+        return std::string("a file of that name stands in its place");
+    fs::create_directories(folder, ec);
+    if (ec)
+        return ec.message();
+    return std::nullopt;
+}
+
 } // namespace
 
 const std::string& sectionHeader(int section) {
@@ -59,7 +76,7 @@ const std::string& workFileName(int number) {
     return WorkFileNames.at(static_cast<size_t>(number));
 }
 
-void StartSession(Session& session, const std::string& startFolder) {
+std::optional<BoxRequest> StartSession(Session& session, const std::string& startFolder) {
     session.EditorTitle = "Brooklet Editor 2001";
     session.ToolName.clear();
     session.CurrentFile = UntitledFile;
@@ -74,8 +91,17 @@ void StartSession(Session& session, const std::string& startFolder) {
     session.LocalSoilFile = session.ProgramFolder + "Local_Soil_HSG.txt";
     session.HelpListFile = session.ProgramFolder + "BrookletHelp.lst";
 
-    if (!folderExists(session.WorkFolder))
-        createFolder(session.WorkFolder);
+    // A work folder that cannot be made or written is told at once: no file could be opened.
+    std::optional<BoxRequest> box;
+    if (const auto problem = makeFolder(session.WorkFolder)) {
+        box = BoxRequest{"The work folder " + session.WorkFolder + " could not be made (" + *problem +
+                             "). No input file can be opened until it can be.",
+                         DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation};
+    } else if (const WriteResult writable = checkFolderWritable(session.WorkFolder); !writable.ok) {
+        box = BoxRequest{"The work folder " + session.WorkFolder + " cannot be written (" + writable.error +
+                             "). No input file can be opened until it can be.",
+                         DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation};
+    }
 
     for (int i = 1; i <= WorkFileCount; ++i)
         session.WorkFilePath[i] = session.WorkFolder + WorkFileNames[i];
@@ -83,6 +109,7 @@ void StartSession(Session& session, const std::string& startFolder) {
         session.SectionTable[i] = Headers[i];
     for (int i = 1; i <= ResultExtensionCount; ++i)
         session.ResultExtension[i] = Extensions[i];
+    return box;
 }
 
 void ClearWorkFiles(const Session& session) {
@@ -141,8 +168,8 @@ std::string DirectoryPart(const std::string& Path) {
     return trimmed.substr(0, separator + 1);
 }
 
-bool WriteFileNameWorkFile(const Session& session) {
-    return writeLines(session.WorkFilePath[FileNameWorkFile], {session.CurrentFile}).ok;
+WriteResult WriteFileNameWorkFile(const Session& session) {
+    return writeLines(session.WorkFilePath[FileNameWorkFile], {session.CurrentFile});
 }
 
 } // namespace brooklet

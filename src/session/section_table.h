@@ -5,6 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "session/messages.h"
+#include "session/text_file.h"
+
 namespace brooklet {
 
 constexpr int SectionCount = 15;
@@ -95,8 +98,9 @@ struct Session {
 };
 
 // Sets the tables and paths from the start folder (the current folder when the main window
-// loads) and creates the work folder if it is missing, silently.
-void StartSession(Session& session, const std::string& startFolder);
+// loads) and creates the work folder if it is missing, silently. A work folder that cannot be
+// made or written gives the box that says so.
+std::optional<BoxRequest> StartSession(Session& session, const std::string& startFolder);
 
 // Deletes every work file, "~filename.tmp" included, silently.
 void ClearWorkFiles(const Session& session);
@@ -116,7 +120,7 @@ std::optional<std::string> DeleteResultFiles(const std::string& File);
 // The trimmed path up to and including its last folder separator; unchanged when it has none.
 std::string DirectoryPart(const std::string& Path);
 
-// Writes the input file's path as the only line of work file 16. False when it cannot be written.
-bool WriteFileNameWorkFile(const Session& session);
+// Writes the input file's path as the only line of work file 16.
+WriteResult WriteFileNameWorkFile(const Session& session);
 
 } // namespace brooklet

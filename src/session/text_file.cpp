@@ -8,6 +8,13 @@
 #include <system_error>
 #include <utility>
 
+#ifndef _WIN32
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 #if defined(__SSE2__) || defined(_M_X64)
 #include <emmintrin.h>
 #endif
@@ -22,8 +29,7 @@ namespace {
 constexpr size_t BlockSize = size_t(1) << 20;
 
 void skipByteOrderMark(const std::string& bytes, size_t end, size_t& pos) {
-    if (end >= 3 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0)
-        pos = 3;
+    pos = byteOrderMarkLength(std::string_view(bytes).substr(0, end));
 }
 
 #if defined(__SSE2__) || defined(_M_X64)
@@ -70,6 +76,10 @@ size_t findLineEnd(const char* bytes, size_t first, size_t end) {
 }
 
 } // namespace
+
+size_t byteOrderMarkLength(std::string_view bytes) {
+    return bytes.substr(0, 3) == "\xEF\xBB\xBF" ? 3 : 0;
+}
 
 LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)), end_(bytes_.size()) {
     skipByteOrderMark(bytes_, end_, pos_);
@@ -210,45 +220,280 @@ fs::path linkTarget(fs::path path) {
     return path;
 }
 
-} // namespace
-
-WriteResult writeFileAtomically(const std::string& path, const std::string& bytes) {
-    return writeFileAtomically(path, std::vector<std::string_view>{bytes});
+WriteFaultHook& faultHook() {
+    static WriteFaultHook hook;
+    return hook;
 }
 
-WriteResult writeFileAtomically(const std::string& requested, const std::vector<std::string_view>& pieces) {
+WriteFault askHook(WriteStep step, const std::string& path, size_t bytes) {
+    const WriteFaultHook& hook = faultHook();
+    return hook ? hook(step, path, bytes) : WriteFault{};
+}
+
+WriteResult failure(int error) {
+    return {false, std::generic_category().message(error)};
+}
+
+std::string siblingOf(const std::string& path) {
+    return path + ".part";
+}
+
+const WriteResult StoppedBeforeRename = {false, "stopped before the new data took the file's place"};
+
+#ifdef _WIN32
+
+// The permissions of an existing file, which its replacement takes.
+struct OldFile {
+    fs::perms permissions;
+};
+
+WriteResult writeSibling(const std::string& path, const std::vector<std::string_view>& pieces,
+                         const OldFile* old, bool /*durable*/) {
+    const std::string sibling = siblingOf(path);
+    if (const WriteFault fault = askHook(WriteStep::Create, sibling, 0); fault.error)
+        return failure(fault.error);
+    std::ofstream out(sibling, std::ios::binary | std::ios::trunc);
+    if (!out)
+        return {false, "it cannot be created"};
+    int error = 0;
+    for (const std::string_view piece : pieces) {
+        if (const WriteFault fault = askHook(WriteStep::Write, sibling, piece.size()); fault.error) {
+            error = fault.error;
+            break;
+        }
+        out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+    }
+    out.close();
+    if (error || !out) {
+        deleteFile(sibling);
+        return error ? failure(error) : WriteResult{false, "it cannot be written"};
+    }
+    std::error_code ec;
+    if (old)
+        fs::permissions(sibling, old->permissions, ec);
+    return {};
+}
+
+WriteResult placeSibling(const std::string& path, bool /*durable*/) {
+    const std::string sibling = siblingOf(path);
+    const WriteFault fault = askHook(WriteStep::Rename, path, 0);
+    if (fault.stop)
+        return StoppedBeforeRename;
+    std::error_code ec;
+    if (!fault.error)
+        fs::rename(sibling, path, ec);
+    if (fault.error || ec) {
+        deleteFile(sibling);
+        return fault.error ? failure(fault.error) : WriteResult{false, ec.message()};
+    }
+    return {};
+}
+
+#else
+
+using OldFile = struct stat;
+
+// Opens a file for writing, made when missing; -1 with errno set on failure.
+int openForWriting(const std::string& path, int flags, mode_t mode) {
+    if (const WriteFault fault = askHook(WriteStep::Create, path, 0); fault.error) {
+        errno = fault.error;
+        return -1;
+    }
+    int fd;
+    do
+        fd = ::open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, mode);
+    while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+// Writes the pieces whole from the file's present position: 0, or the system's error number.
+// A write the fault hook does not see is the putting back of bytes the file held already.
+int writeAll(int fd, const std::string& path, const std::vector<std::string_view>& pieces,
+             bool hooked = true) {
+    for (std::string_view piece : pieces) {
+        while (!piece.empty()) {
+            if (hooked)
+                if (const WriteFault fault = askHook(WriteStep::Write, path, piece.size()); fault.error)
+                    return fault.error;
+            const ssize_t written = ::write(fd, piece.data(), piece.size());
+            if (written < 0) {
+                if (errno == EINTR)
+                    continue;
+                return errno;
+            }
+            piece.remove_prefix(size_t(written));
+        }
+    }
+    return 0;
+}
+
+// A close that fails may mean that data never reached the file.
+int closeChecked(int fd) {
+    return ::close(fd) == 0 ? 0 : errno;
+}
+
+// The folder's entry of a renamed file reaches the disk too. The file has its place already, so
+// a file system that cannot sync a folder changes nothing of the result.
+void syncFolder(const std::string& path) {
+    const std::string folder = fs::path(path).parent_path().string();
+    const int fd = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+}
+
+// Writes the sibling of path, with the permissions (and, where allowed, the owner) of the file it
+// is to replace; on failure nothing of it is left.
+WriteResult writeSibling(const std::string& path, const std::vector<std::string_view>& pieces,
+                         const OldFile* old, bool durable) {
+    const std::string sibling = siblingOf(path);
+    const mode_t mode = old ? (old->st_mode & 07777) : 0666;
+    const int fd = openForWriting(sibling, O_CREAT | O_TRUNC, mode);
+    if (fd < 0)
+        return failure(errno);
+    int error = 0;
+    if (old) {
+        if (old->st_uid != ::geteuid() || old->st_gid != ::getegid())
+            (void)!::fchown(fd, old->st_uid, old->st_gid);
+        if (::fchmod(fd, mode) != 0)
+            error = errno;
+    }
+    if (!error)
+        error = writeAll(fd, sibling, pieces);
+    if (!error && durable && ::fsync(fd) != 0)
+        error = errno;
+    const int closed = closeChecked(fd);
+    if (!error)
+        error = closed;
+    if (error) {
+        ::unlink(sibling.c_str());
+        return failure(error);
+    }
+    return {};
+}
+
+WriteResult placeSibling(const std::string& path, bool durable) {
+    const std::string sibling = siblingOf(path);
+    const WriteFault fault = askHook(WriteStep::Rename, path, 0);
+    if (fault.stop)
+        return StoppedBeforeRename;
+    int error = fault.error;
+    if (!error && ::rename(sibling.c_str(), path.c_str()) != 0)
+        error = errno;
+    if (error) {
+        ::unlink(sibling.c_str());
+        return failure(error);
+    }
+    if (durable)
+        syncFolder(path);
+    return {};
+}
+
+// A file of several hard links: a rename would part its names, so the new bytes are written over
+// the old ones, after a copy of the old file is kept. A write that fails puts the old bytes back,
+// which takes no new room on the disk, as the file holds their blocks already.
+WriteResult writeInPlace(const std::string& path, const std::vector<std::string_view>& pieces,
+                         const WriteOptions& options) {
+    const auto old = readFileBytes(path);
+    if (!old)
+        return {false, "it cannot be read"};
+    const std::string copy = options.keepCopyIn + fs::path(path).filename().string() + ".old";
+    if (const WriteResult kept = writeFileAtomically(copy, *old, WriteOptions{true, {}}); !kept.ok)
+        return {false, "a copy of it could not be kept as " + copy + ": " + kept.error};
+    const int fd = openForWriting(path, 0, 0);
+    if (fd < 0)
+        return failure(errno);
+    size_t size = 0;
+    for (const std::string_view piece : pieces)
+        size += piece.size();
+    int error = writeAll(fd, path, pieces);
+    if (!error && ::ftruncate(fd, off_t(size)) != 0)
+        error = errno;
+    if (!error && options.durable && ::fsync(fd) != 0)
+        error = errno;
+    if (error && ::lseek(fd, 0, SEEK_SET) == 0 && writeAll(fd, path, {*old}, false) == 0)
+        (void)!::ftruncate(fd, off_t(old->size()));
+    if (error)
+        ::fsync(fd);
+    const int closed = closeChecked(fd);
+    if (!error)
+        error = closed;
+    return error ? failure(error) : WriteResult{};
+}
+
+#endif
+
+} // namespace
+
+void setWriteFaultHook(WriteFaultHook hook) {
+    faultHook() = std::move(hook);
+}
+
+WriteResult writeFileAtomically(const std::string& path, const std::string& bytes,
+                                const WriteOptions& options) {
+    return writeFileAtomically(path, std::vector<std::string_view>{bytes}, options);
+}
+
+WriteResult writeFileAtomically(const std::string& requested, const std::vector<std::string_view>& pieces,
+                                const WriteOptions& options) {
     const std::string path = linkTarget(requested).string();
     std::error_code linkError;
     if (fs::is_symlink(path, linkError))
         return {false, "its links lead round in a circle"};
+#ifdef _WIN32
     std::error_code ec;
     const fs::file_status existing = fs::status(path, ec);
     const bool exists = !ec && fs::exists(existing);
     if (exists && (existing.permissions() & fs::perms::owner_write) == fs::perms::none)
         return {false, "it is read-only"};
-    const std::string sibling = path + ".part";
-    {
-        std::ofstream out(sibling, std::ios::binary | std::ios::trunc);
-        if (!out)
-            return {false, "it cannot be created"};
-        for (const std::string_view piece : pieces)
-            out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
-        out.flush();
-        if (!out) {
-            out.close();
-            deleteFile(sibling);
-            return {false, "it cannot be written"};
+    const OldFile old{existing.permissions()};
+    const bool regular = exists && fs::is_regular_file(existing);
+#else
+    OldFile old{};
+    const bool exists = ::stat(path.c_str(), &old) == 0;
+    if (exists && !(old.st_mode & S_IWUSR))
+        return {false, "it is read-only"};
+    const bool regular = exists && S_ISREG(old.st_mode);
+    if (regular && old.st_nlink > 1 && !options.keepCopyIn.empty())
+        return writeInPlace(path, pieces, options);
+#endif
+    if (const WriteResult written = writeSibling(path, pieces, regular ? &old : nullptr, options.durable);
+        !written.ok)
+        return written;
+    return placeSibling(path, options.durable);
+}
+
+FileSet::~FileSet() {
+    for (const std::string& path : paths_)
+        deleteFile(siblingOf(path));
+}
+
+WriteResult FileSet::add(const std::string& path, const std::vector<std::string_view>& pieces) {
+    const WriteResult written = writeSibling(path, pieces, nullptr, false);
+    if (written.ok && std::find(paths_.begin(), paths_.end(), path) == paths_.end())
+        paths_.push_back(path);
+    return written;
+}
+
+WriteResult FileSet::place() {
+    for (size_t i = 0; i < paths_.size(); ++i) {
+        const WriteResult placed = placeSibling(paths_[i], false);
+        if (!placed.ok) {
+            paths_.erase(paths_.begin(), paths_.begin() + std::ptrdiff_t(i) + 1);
+            return placed;
         }
     }
-    // The new file takes the place of the old one with the old one's permissions.
-    if (exists)
-        fs::permissions(sibling, existing.permissions(), ec);
-    fs::rename(sibling, path, ec);
-    if (ec) {
-        deleteFile(sibling);
-        return {false, ec.message()};
-    }
+    paths_.clear();
     return {};
+}
+
+WriteResult checkFolderWritable(const std::string& folder) {
+    const std::string probe = (fs::path(folder) / "~WriteCheck.tmp").string();
+    const WriteResult written = writeSibling(probe, {}, nullptr, false);
+    if (written.ok)
+        deleteFile(siblingOf(probe));
+    return written;
 }
 
 std::string joinLines(const std::vector<std::string>& lines) {
@@ -264,8 +509,9 @@ std::string joinLines(const std::vector<std::string>& lines) {
     return bytes;
 }
 
-WriteResult writeLines(const std::string& path, const std::vector<std::string>& lines) {
-    return writeFileAtomically(path, joinLines(lines));
+WriteResult writeLines(const std::string& path, const std::vector<std::string>& lines,
+                       const WriteOptions& options) {
+    return writeFileAtomically(path, joinLines(lines), options);
 }
 
 bool touchFile(const std::string& path) {

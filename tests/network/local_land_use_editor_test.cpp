@@ -12,6 +12,8 @@
 #include <QPlainTextEdit>
 #include <QWindow>
 
+#include <filesystem>
+
 namespace brooklet::test {
 namespace {
 
@@ -375,15 +377,27 @@ TEST_F(LocalLandUseEditorTest, AcceptLeavesTheDataChangedFlagAlone) {
     EXPECT_TRUE(session().DataChanged);
 }
 
-TEST_F(LocalLandUseEditorTest, AFileThatCannotBeWrittenStaysAsItWasAndTheWindowStillCloses) {
+TEST_F(LocalLandUseEditorTest, AFileThatCannotBeWrittenStaysAsItWasAndSoDoesTheWindowWithWhatWasTyped) {
     ASSERT_TRUE(createFolder(session().LocalLandUseFile));
     open();
     enterName("Lot");
     typeAndPress(2, "70");
     accept();
-    EXPECT_TRUE(windowClosed());
+    EXPECT_FALSE(windowClosed());
     EXPECT_TRUE(folderExists(session().LocalLandUseFile));
-    EXPECT_TRUE(platform.boxes.empty());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{"The file " + session().LocalLandUseFile +
+                              " could not be written (Is a directory). It is as it was before; "
+                              "the window stays open.",
+                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(box(2)->text(), "70");
+
+    // Once the file can be written, Accept writes what was typed.
+    ASSERT_TRUE(std::filesystem::remove(session().LocalLandUseFile));
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(localFileBytes(), crlf({"\"Lot\",\"70\",\"\",\"\",\"\"", "\"\""}));
 }
 
 TEST_F(LocalLandUseEditorTest, ALabelClickTogglesItsHelp) {

@@ -88,6 +88,17 @@ TEST_F(LocalLandUseFileTest, AFileThatCannotBeOpenedReadsAsEmpty) {
               (Rows{{"Lot", "70", "75", "80", "85"}}));
 }
 
+TEST_F(LocalLandUseFileTest, AByteOrderMarkAtTheStartIsNoPartOfTheFirstName) {
+    localFile("\xEF\xBB\xBF\"Lot\",\"70\",\"75\",\"80\",\"85\"\r\n\"\"\r\n");
+    EXPECT_EQ(ReadLocalLandUseFile(session.LocalLandUseFile, BlankName::SkipLine),
+              (Rows{{"Lot", "70", "75", "80", "85"}}));
+    // So the merge knows the name and leaves the file alone.
+    work(15, {"Lot"});
+    bool changed = true;
+    EXPECT_TRUE(MergeLocalLandUse(session, changed).ok);
+    EXPECT_FALSE(changed);
+}
+
 TEST(LocalLandUseReferenceFileTest, ReadsAndWritesBackByteForByte) {
     const std::string original = bytesOf(testDataPath("Local_Land_Use_Data.txt"));
     const Rows rows = ReadLandUseRecords(original, BlankName::SkipLine);

@@ -28,6 +28,12 @@ TEST_F(LocalSoilTest, ReadsIdentifiersTrimmedAndTheirGroupsByLetter) {
         (Soils{{"Sandy loam", "A", "", "", "D"}, {"Clay", "", "", "", "D"}, {"Silt", "", "B", "C", ""}}));
 }
 
+TEST_F(LocalSoilTest, AByteOrderMarkAtTheStartIsNoPartOfTheFirstSoil) {
+    soilFile("\xEF\xBB\xBF\"Sandy loam\",\"A/D\"\r\n\"\"\r\n");
+    EXPECT_EQ(ReadLocalSoilFile(session.LocalSoilFile), (Soils{{"Sandy loam", "A", "", "", "D"}}));
+    EXPECT_EQ(ReadSoilDisplay(session.LocalSoilFile), (Pairs{{"Sandy loam", "A/D"}}));
+}
+
 TEST_F(LocalSoilTest, AHandEditedDSlashAComesBackAsASlashD) {
     soilFile("\"Peat\",\"D/A\"\r\n\"\"\r\n");
     const Soils soils = ReadLocalSoilFile(session.LocalSoilFile);

@@ -322,7 +322,7 @@ TEST_F(SaveTest, AFileThatCannotBeWrittenLeavesEverythingAsItWas) {
     EXPECT_EQ(result.box.icon, BoxIcon::Exclamation);
     EXPECT_EQ(result.box.text,
               "The file " + target +
-                  " could not be saved (it cannot be created). The file and the data of this "
+                  " could not be saved (No such file or directory). The file and the data of this "
                   "session are as they were.");
     EXPECT_TRUE(session.DataChanged);
     EXPECT_EQ(bytesOf(session.WorkFilePath[16]), crlf({"/earlier.inp"}));
