@@ -71,6 +71,9 @@ bool SaveInputFile(AppContext& context) {
 
 void ConvertOldData(AppContext& context, frmMain& main) {
     Session& session = context.session;
+    // Typing of open editors is settled first, so a Yes reaches the question about saving.
+    if (!context.windows.askAboutTypingInSessionWindows())
+        return;
     // The converted file replaces the work files, where unsaved changes live: ask first.
     if (main.askAboutUnsavedChanges("converted old Flume data ?") == frmMain::UnsavedChanges::Kept)
         return;
@@ -100,6 +103,8 @@ void ConvertOldData(AppContext& context, frmMain& main) {
 
 void ImportHecRas(AppContext& context, frmMain& main) {
     Session& session = context.session;
+    if (!context.windows.askAboutTypingInSessionWindows())
+        return;
     std::string oldName;
     bool cancelled = false;
     main.PromptBeforeLoading(oldName, "reformatted HEC-RAS cross section data ?", cancelled);

@@ -161,11 +161,28 @@ BoxRequest EntryWindow::keepChangesQuestion() const {
             toBytes(design_.Caption.trimmed()), BoxButtons::YesNoCancel, BoxIcon::Question};
 }
 
+bool EntryWindow::holdsTyping() const {
+    return stateTaken_ && editState() != shownState_;
+}
+
+BoxRequest EntryWindow::typingQuestion() const {
+    const QString caption = design_.Caption.trimmed();
+    return {toBytes("Keep the changes made in the window " + caption +
+                    " before it closes (Yes accepts them, No discards them, Cancel stops the command and "
+                    "returns to the window)?"),
+            toBytes(caption), BoxButtons::YesNoCancel, BoxIcon::Question};
+}
+
+bool EntryWindow::keepTyping() {
+    press(cmdFinished, &EntryWindow::acceptChanges);
+    return isHidden();
+}
+
 void EntryWindow::closeEvent(QCloseEvent* event) {
-    // Only the close box asks: the buttons, and the closing of every session window before a
-    // new session begins, close as they are told.
+    // Only the close box asks here: the buttons close as they are told, and the commands that
+    // close every session window have asked before (WindowHost::askAboutTypingInSessionWindows).
     const bool byCloseBox = event->spontaneous() && !context.windows.closingSessionWindows();
-    if (byCloseBox && stateTaken_ && editState() != shownState_) {
+    if (byCloseBox && holdsTyping()) {
         const BoxAnswer answer = context.platform.showBox(keepChangesQuestion());
         if (answer == BoxAnswer::Cancel) {
             event->ignore();

@@ -10,7 +10,8 @@
 // what differs: its defaults, how it reads and writes its records, its checks and its order.
 //
 // From the keyboard, Escape is "No Changes" and Ctrl+Enter "Accept Changes". Closing the window
-// by its close box after the user changed something asks whether to keep the changes.
+// by its close box after the user changed something asks whether to keep the changes, and so
+// does every command that closes the window to begin another session or to end the program.
 #include <QWidget>
 
 #include <initializer_list>
@@ -21,6 +22,7 @@
 #include "editing/help_view.h"
 #include "editing/widgets.h"
 #include "session/messages.h"
+#include "session/window_host.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -43,7 +45,7 @@ struct EntryDesign {
     int Section = 0;      // the section whose work file it edits
 };
 
-class EntryWindow : public QWidget {
+class EntryWindow : public QWidget, public SessionEditor {
     Q_OBJECT
 public:
     const EntryDesign& design() const { return design_; }
@@ -55,6 +57,12 @@ public:
     virtual void acceptChanges();
     // "No Changes": closes; nothing is written and DataChanged stays as it was.
     void noChanges();
+
+    // The user changed something since the window first showed (editState).
+    bool holdsTyping() const override;
+    BoxRequest typingQuestion() const override;
+    // "Accept Changes", as a click on it does; true when the window has closed.
+    bool keepTyping() override;
 
 protected:
     EntryWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
