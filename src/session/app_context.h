@@ -2,8 +2,8 @@
 // What the program holds as a whole: the session, the platform services and the open windows.
 // Windows receive it by reference; a test makes its own in its own program folder.
 #include "editing/grid_editor.h"
-#include "editing/plot_data.h"
 #include "editing/watershed_tables.h"
+#include "editing/plot_data.h"
 #include "session/platform.h"
 #include "session/section_table.h"
 #include "session/window_host.h"
