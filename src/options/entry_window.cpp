@@ -1,6 +1,7 @@
 #include "options/entry_window.h"
 
 #include "editing/help_box.h"
+#include "editing/text_table.h"
 #include "session/app_context.h"
 #include "session/text_file.h"
 
@@ -120,6 +121,7 @@ void EntryWindow::showEvent(QShowEvent* event) {
     // The buttons exist by now, whoever built them.
     describeCloseKeys();
     shownState_ = editState();
+    addHeldData(shownData_);
     stateTaken_ = true;
 }
 
@@ -162,7 +164,34 @@ BoxRequest EntryWindow::keepChangesQuestion() const {
 }
 
 bool EntryWindow::holdsTyping() const {
-    return stateTaken_ && editState() != shownState_;
+    if (!stateTaken_)
+        return false;
+    if (editState() != shownState_)
+        return true;
+    std::string data;
+    addHeldData(data);
+    return data != shownData_;
+}
+
+void EntryWindow::appendTable(std::string& data, const TextTable& table) {
+    // Rows the table has grown by, still empty, change nothing.
+    int last = table.rows();
+    auto rowEmpty = [&table](int row) {
+        for (int field = 1; field <= table.fields(); ++field)
+            if (!table(field, row).empty())
+                return false;
+        return true;
+    };
+    while (last > 0 && rowEmpty(last))
+        --last;
+    for (int row = 1; row <= last; ++row) {
+        for (int field = 1; field <= table.fields(); ++field) {
+            data += table(field, row);
+            data += '\x1f';
+        }
+        data += '\x1e';
+    }
+    data += '\x1d';
 }
 
 BoxRequest EntryWindow::typingQuestion() const {

@@ -35,6 +35,7 @@ namespace brooklet {
 
 struct AppContext;
 struct Session;
+class TextTable;
 
 // What an editor window is by design.
 struct EntryDesign {
@@ -116,6 +117,11 @@ protected:
     // ticks, choices, lists and grid cells of every control; a window that keeps edits
     // elsewhere too adds them.
     virtual QStringList editState() const;
+    // The tables in memory where the window stores typing away from its controls (the entries
+    // not on show), as bytes; compared in the same way. None by default.
+    virtual void addHeldData(std::string& /*data*/) const {}
+    // A table's texts as bytes, up to its last row holding any, for addHeldData.
+    static void appendTable(std::string& data, const TextTable& table);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -149,6 +155,7 @@ private:
     int focusMovedTo_ = -1;
     std::map<QObject*, int> passOn_;
     QStringList shownState_;
+    std::string shownData_;
     bool stateTaken_ = false;
 };
 
