@@ -125,33 +125,45 @@ std::vector<QWidget*> WindowHost::sessionWindowsNewestFirst() const {
 }
 
 bool WindowHost::askAboutTypingInSessionWindows() {
-    std::vector<QPointer<QWidget>> keep;
-    for (QWidget* window : sessionWindowsNewestFirst()) {
-        auto* editor = dynamic_cast<SessionEditor*>(window);
-        if (!editor || !window->isVisible() || !editor->holdsTyping())
-            continue;
-        const BoxAnswer answer = context_.platform.showBox(editor->typingQuestion());
-        if (answer == BoxAnswer::Yes)
-            keep.emplace_back(window);
-        else if (answer != BoxAnswer::No)
-            return false;
+    std::vector<QPointer<QWidget>> discarded;
+    // A window that stores its typing may hand it to a window that opened it (a sub-area window
+    // of an alternate): that one is asked in a further round.
+    for (;;) {
+        std::vector<QPointer<QWidget>> keep;
+        bool asked = false;
+        for (QWidget* window : sessionWindowsNewestFirst()) {
+            auto* editor = dynamic_cast<SessionEditor*>(window);
+            if (!editor || !window->isVisible() || !editor->holdsTyping() ||
+                std::find(discarded.begin(), discarded.end(), window) != discarded.end())
+                continue;
+            asked = true;
+            const BoxAnswer answer = context_.platform.showBox(editor->typingQuestion());
+            if (answer == BoxAnswer::Yes)
+                keep.emplace_back(window);
+            else if (answer == BoxAnswer::No)
+                discarded.emplace_back(window);
+            else
+                return false;
+        }
+        if (!asked)
+            return true;
+        for (const QPointer<QWidget>& window : keep) {
+            if (!window)
+                continue;
+            // The window may be inside a dialog of its own: it is deleted only when that returns.
+            window->setAttribute(Qt::WA_DeleteOnClose, false);
+            const bool kept = dynamic_cast<SessionEditor*>(window.data())->keepTyping();
+            if (window->isHidden())
+                retire(window);
+            else
+                window->setAttribute(Qt::WA_DeleteOnClose, true);
+            if (!kept) {
+                deleteRetiredWindows();
+                return false;
+            }
+        }
+        deleteRetiredWindows();
     }
-    bool kept = true;
-    for (const QPointer<QWidget>& window : keep) {
-        if (!window)
-            continue;
-        // The window may be inside a dialog of its own: it is deleted only when that returns.
-        window->setAttribute(Qt::WA_DeleteOnClose, false);
-        kept = dynamic_cast<SessionEditor*>(window.data())->keepTyping();
-        if (window->isHidden())
-            retire(window);
-        else
-            window->setAttribute(Qt::WA_DeleteOnClose, true);
-        if (!kept)
-            break;
-    }
-    deleteRetiredWindows();
-    return kept;
 }
 
 void WindowHost::closeSessionWindows() {

@@ -68,9 +68,10 @@ public:
     void unload(const QString& name);
     // Before a command closes the session's windows: asks about each window that holds typing,
     // the newest first. When every answer is given, the windows answered Yes store their typing
-    // as Accept does and close; those answered No are left to the closing. False when the
-    // command must stop: Cancel was answered (then nothing has changed), or typing could not be
-    // stored.
+    // as Accept does and close; those answered No are left to the closing. A window that holds
+    // typing only after that (handed over by a window it opened) is asked in a further round.
+    // False when the command must stop: Cancel was answered (in the first round nothing has
+    // changed then), or typing could not be stored.
     bool askAboutTypingInSessionWindows();
     // Closes every editor and tool window as "No Changes" would, asking nothing, before a new
     // session begins: no window of the old session may write its data into the new one. Their
