@@ -114,8 +114,10 @@ std::vector<QWidget*> WindowHost::sessionWindowsNewestFirst() const {
     for (const auto& [name, window] : instances_) {
         auto kind = kinds_.find(name);
         // Only windows the host made belong to a session; the main window was adopted.
-        if (window && kind != kinds_.end() && kind->second == Kind::Session)
-            windows.emplace_back(loadOrder_.at(name), window.data());
+        if (!window || kind == kinds_.end() || kind->second != Kind::Session)
+            continue;
+        auto order = loadOrder_.find(name);
+        windows.emplace_back(order == loadOrder_.end() ? 0u : order->second, window.data());
     }
     std::sort(windows.begin(), windows.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<QWidget*> newestFirst;
