@@ -62,8 +62,9 @@ protected:
         return window.isNull();
     }
     // The new session has begun on the second file, and the window of the old one is gone.
-    void expectNewSessionWithout(const QPointer<QWidget>& window, const char* name) {
-        EXPECT_EQ(platform.dialogsCancelled, 1) << "the dialog was not closed as Cancel";
+    void expectNewSessionWithout(const QPointer<QWidget>& window, const char* name,
+                                 int dialogsCancelled = 1) {
+        EXPECT_EQ(platform.dialogsCancelled, dialogsCancelled) << "the dialog was not closed as Cancel";
         EXPECT_EQ(session().CurrentFile, second);
         EXPECT_FALSE(session().DataChanged);
         ASSERT_NE(context->windows.loaded("frmFlume"), nullptr);
@@ -118,6 +119,39 @@ TEST_F(SessionEndDialogTest, PlotWindowSaveAs) {
     control<QAction>(plot, "saveas")->trigger();
     EXPECT_EQ(platform.saveDialogs.size(), 1u);
     expectNewSessionWithout(plot, "frmIO_Plots");
+}
+
+// The preview is a modal window of the plot window's own.
+TEST_F(SessionEndDialogTest, PlotWindowPreview) {
+    handOverHydrographs();
+    QPointer<QWidget> plot = open();
+    ASSERT_FALSE(plot.isNull());
+    platform.openPicks.push_back(second);
+    QPointer<QWidget> preview;
+    bool plotAliveAfterOpen = false;
+    bool checked = false;
+    // Runs inside the preview's own events, as a screen reader's press would.
+    QMetaObject::invokeMethod(
+        main,
+        [&] {
+            preview = context->windows.loaded("frmGraphPP");
+            pressFileItemByScreenReader("Open Existing Brooklet File");
+            // After the events the Open left behind have run, still inside the preview's.
+            QMetaObject::invokeMethod(
+                main,
+                [&] {
+                    plotAliveAfterOpen = !plot.isNull();
+                    checked = true;
+                },
+                Qt::QueuedConnection);
+        },
+        Qt::QueuedConnection);
+    control<QAction>(plot, "preview")->trigger();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(checked);
+    EXPECT_TRUE(plotAliveAfterOpen) << "the plot window was deleted while its preview was open";
+    EXPECT_TRUE(deleted(preview));
+    expectNewSessionWithout(plot, "frmIO_Plots", 0);
 }
 
 // The close box's question about typing is the editor's own box, asked inside its close event.
