@@ -134,6 +134,9 @@ bool runOnChosenFile(AppContext& context, const ExternalProgram& program, const 
 
 void ConvertOldData(AppContext& context, frmMain& main) {
     Session& session = context.session;
+    // Typing of open editors is settled first, so a Yes reaches the question about saving.
+    if (!context.windows.askAboutTypingInSessionWindows())
+        return;
     // The converted file replaces the work files, where unsaved changes live: ask first.
     if (main.askAboutUnsavedChanges("converted old Flume data ?") == frmMain::UnsavedChanges::Kept)
         return;
@@ -165,6 +168,8 @@ void ConvertOldData(AppContext& context, frmMain& main) {
 
 void ImportHecRas(AppContext& context, frmMain& main) {
     Session& session = context.session;
+    if (!context.windows.askAboutTypingInSessionWindows())
+        return;
     // The question of PromptBeforeLoading. The session it would close closes only once the
     // reformatter has written its file, so an import that fails leaves the session as it was.
     session.RunResultLabel = " ";

@@ -365,6 +365,9 @@ void frmMain::setCaptionToCurrentFile() {
 }
 
 void frmMain::newFile() {
+    // Typing of open editors is settled first, so a Yes reaches the question about saving.
+    if (!context_.windows.askAboutTypingInSessionWindows())
+        return;
     beginFileCommand();
     // Unsaved changes live only in the work files that a new file clears: ask first.
     if (askAboutUnsavedChanges("a new Brooklet input data file ?") != UnsavedChanges::Kept) {
@@ -392,6 +395,8 @@ std::optional<std::string> frmMain::chooseFileToOpen(const std::string& filter, 
 }
 
 void frmMain::openExistingFile() {
+    if (!context_.windows.askAboutTypingInSessionWindows())
+        return;
     beginFileCommand();
     Session& session = context_.session;
     std::string oldName;
@@ -421,6 +426,8 @@ void frmMain::openExistingFile() {
 }
 
 void frmMain::reopenLastSession() {
+    if (!context_.windows.askAboutTypingInSessionWindows())
+        return;
     beginFileCommand();
     context_.windows.closeSessionWindows();
     Session& session = context_.session;
@@ -518,6 +525,10 @@ void frmMain::exitProgram() {
     beginFileCommand();
     if (!StopProgramBeforeExit(context_))
         return;
+    // Typing that the user keeps becomes a change of the input file, which the next question
+    // offers to save.
+    if (!context_.windows.askAboutTypingInSessionWindows())
+        return;
     Session& session = context_.session;
     if (session.DataChanged) {
         const BoxAnswer answer = context_.platform.showBox(
@@ -548,6 +559,8 @@ void frmMain::exitProgram() {
             }
         }
     }
+    // Windows inside a dialog of their own close only once it has returned to them.
+    context_.windows.closeSessionWindows();
     context_.platform.endProgram();
 }
 

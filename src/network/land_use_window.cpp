@@ -247,6 +247,12 @@ void frmLandUse::deleteCurrent() {
     clearGrid();
 }
 
+void frmLandUse::addHeldData(std::string& data) const {
+    appendTable(data, work.WorkStore);
+    for (const std::string& id : work.LandUseIds)
+        data += id + '\x1f';
+}
+
 std::vector<std::string> frmLandUse::sectionRecords() {
     return SubAreaSectionRecords(tables);
 }

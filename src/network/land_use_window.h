@@ -38,6 +38,8 @@ protected:
     void readSection(const std::vector<std::string>&) override {}
     void afterLoad() override;
     std::vector<std::string> sectionRecords() override;
+    // The entries stored away from the controls.
+    void addHeldData(std::string& data) const override;
     bool checkBox(int) override { return true; }
     // From the list, Tab and Enter lead into the grid.
     int nextBox(int index) const override { return index + 1; }

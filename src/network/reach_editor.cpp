@@ -301,6 +301,10 @@ void frmReaches::deleteCurrent() {
     cmbInp(1)->setFocus(Qt::OtherFocusReason);
 }
 
+void frmReaches::addHeldData(std::string& data) const {
+    appendTable(data, ReachTable);
+}
+
 std::vector<std::string> frmReaches::sectionRecords() {
     return ReachSectionRecords(ReachTable, ReachCount);
 }

@@ -240,6 +240,11 @@ void frmSubArea::deleteCurrent() {
     Previous = -999;
 }
 
+void frmSubArea::addHeldData(std::string& data) const {
+    appendTable(data, tables.SubAreaTable);
+    appendTable(data, tables.LandUseStore);
+}
+
 std::vector<std::string> frmSubArea::sectionRecords() {
     return SubAreaSectionRecords(tables);
 }

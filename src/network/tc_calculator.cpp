@@ -284,6 +284,10 @@ void frmTc::deleteCurrent() {
         cmbInp(index)->setCurrentIndex(0);
 }
 
+void frmTc::addHeldData(std::string& data) const {
+    appendTable(data, TcTable);
+}
+
 std::vector<std::string> frmTc::sectionRecords() {
     return SubAreaSectionRecords(tables);
 }

@@ -30,6 +30,8 @@ protected:
     void readSection(const std::vector<std::string>&) override {}
     void afterLoad() override;
     std::vector<std::string> sectionRecords() override;
+    // The entries stored away from the controls.
+    void addHeldData(std::string& data) const override;
     bool checkBox(int index) override;
     int nextBox(int index) const override;
     int optionFocusBox() const override { return 1; }

@@ -1,6 +1,7 @@
 #include "options/entry_window.h"
 
 #include "editing/help_box.h"
+#include "editing/text_table.h"
 #include "session/app_context.h"
 #include "session/text_file.h"
 
@@ -120,6 +121,7 @@ void EntryWindow::showEvent(QShowEvent* event) {
     // The buttons exist by now, whoever built them.
     describeCloseKeys();
     shownState_ = editState();
+    addHeldData(shownData_);
     stateTaken_ = true;
 }
 
@@ -161,11 +163,55 @@ BoxRequest EntryWindow::keepChangesQuestion() const {
             toBytes(design_.Caption.trimmed()), BoxButtons::YesNoCancel, BoxIcon::Question};
 }
 
+bool EntryWindow::holdsTyping() const {
+    if (!stateTaken_)
+        return false;
+    if (editState() != shownState_)
+        return true;
+    std::string data;
+    addHeldData(data);
+    return data != shownData_;
+}
+
+void EntryWindow::appendTable(std::string& data, const TextTable& table) {
+    // Rows the table has grown by, still empty, change nothing.
+    int last = table.rows();
+    auto rowEmpty = [&table](int row) {
+        for (int field = 1; field <= table.fields(); ++field)
+            if (!table(field, row).empty())
+                return false;
+        return true;
+    };
+    while (last > 0 && rowEmpty(last))
+        --last;
+    for (int row = 1; row <= last; ++row) {
+        for (int field = 1; field <= table.fields(); ++field) {
+            data += table(field, row);
+            data += '\x1f';
+        }
+        data += '\x1e';
+    }
+    data += '\x1d';
+}
+
+BoxRequest EntryWindow::typingQuestion() const {
+    const QString caption = design_.Caption.trimmed();
+    return {toBytes("Keep the changes made in the window " + caption +
+                    " before it closes (Yes accepts them, No discards them, Cancel stops the command and "
+                    "returns to the window)?"),
+            toBytes(caption), BoxButtons::YesNoCancel, BoxIcon::Question};
+}
+
+bool EntryWindow::keepTyping() {
+    press(cmdFinished, &EntryWindow::acceptChanges);
+    return isHidden();
+}
+
 void EntryWindow::closeEvent(QCloseEvent* event) {
-    // Only the close box asks: the buttons, and the closing of every session window before a
-    // new session begins, close as they are told.
+    // Only the close box asks here: the buttons close as they are told, and the commands that
+    // close every session window have asked before (WindowHost::askAboutTypingInSessionWindows).
     const bool byCloseBox = event->spontaneous() && !context.windows.closingSessionWindows();
-    if (byCloseBox && stateTaken_ && editState() != shownState_) {
+    if (byCloseBox && holdsTyping()) {
         const BoxAnswer answer = context.platform.showBox(keepChangesQuestion());
         if (answer == BoxAnswer::Cancel) {
             event->ignore();

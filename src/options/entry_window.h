@@ -10,7 +10,8 @@
 // what differs: its defaults, how it reads and writes its records, its checks and its order.
 //
 // From the keyboard, Escape is "No Changes" and Ctrl+Enter "Accept Changes". Closing the window
-// by its close box after the user changed something asks whether to keep the changes.
+// by its close box after the user changed something asks whether to keep the changes, and so
+// does every command that closes the window to begin another session or to end the program.
 #include <QWidget>
 
 #include <initializer_list>
@@ -21,6 +22,7 @@
 #include "editing/help_view.h"
 #include "editing/widgets.h"
 #include "session/messages.h"
+#include "session/window_host.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -33,6 +35,7 @@ namespace brooklet {
 
 struct AppContext;
 struct Session;
+class TextTable;
 
 // What an editor window is by design.
 struct EntryDesign {
@@ -43,7 +46,7 @@ struct EntryDesign {
     int Section = 0;      // the section whose work file it edits
 };
 
-class EntryWindow : public QWidget {
+class EntryWindow : public QWidget, public SessionEditor {
     Q_OBJECT
 public:
     const EntryDesign& design() const { return design_; }
@@ -55,6 +58,12 @@ public:
     virtual void acceptChanges();
     // "No Changes": closes; nothing is written and DataChanged stays as it was.
     void noChanges();
+
+    // The user changed something since the window first showed (editState).
+    bool holdsTyping() const override;
+    BoxRequest typingQuestion() const override;
+    // "Accept Changes", as a click on it does; true when the window has closed.
+    bool keepTyping() override;
 
 protected:
     EntryWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
@@ -108,6 +117,11 @@ protected:
     // ticks, choices, lists and grid cells of every control; a window that keeps edits
     // elsewhere too adds them.
     virtual QStringList editState() const;
+    // The tables in memory where the window stores typing away from its controls (the entries
+    // not on show), as bytes; compared in the same way. None by default.
+    virtual void addHeldData(std::string& /*data*/) const {}
+    // A table's texts as bytes, up to its last row holding any, for addHeldData.
+    static void appendTable(std::string& data, const TextTable& table);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -141,6 +155,7 @@ private:
     int focusMovedTo_ = -1;
     std::map<QObject*, int> passOn_;
     QStringList shownState_;
+    std::string shownData_;
     bool stateTaken_ = false;
 };
 

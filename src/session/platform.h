@@ -2,6 +2,7 @@
 // Everything that needs a person or the operating system: message boxes, file dialogs and the
 // end of the program. Windows call these; tests answer them from a script.
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -160,8 +161,37 @@ public:
     virtual std::string clipboardText() const { return clipboard_; }
     virtual void setClipboardText(const std::string& text) { clipboard_ = text; }
 
+    // The boxes and dialogs open now, one inside another. A screen reader reaches the main
+    // window's menus past a window's open dialog, so a session may end under one.
+    int openDialogCount() const { return static_cast<int>(openDialogs_.size()); }
+    // Closes every box and dialog open now, the newest first, as Cancel does: each hands its
+    // caller what Cancel gives.
+    void cancelOpenDialogs();
+    // Runs each time the last open box or dialog has closed.
+    void setWhenDialogsClosed(std::function<void()> handler) { whenDialogsClosed_ = std::move(handler); }
+
+protected:
+    // An implementation holds one while a box or dialog of its is open; Cancel closes that
+    // dialog as the user's Cancel would, and the dialog then hands back what Cancel gives.
+    class OpenDialog {
+    public:
+        OpenDialog(Platform& platform, std::function<void()> cancel);
+        ~OpenDialog();
+        OpenDialog(const OpenDialog&) = delete;
+        OpenDialog& operator=(const OpenDialog&) = delete;
+        bool cancelled() const { return cancelled_; }
+
+    private:
+        friend class Platform;
+        Platform& platform_;
+        std::function<void()> cancel_;
+        bool cancelled_ = false;
+    };
+
 private:
     std::string clipboard_;
+    std::vector<OpenDialog*> openDialogs_;
+    std::function<void()> whenDialogsClosed_;
 };
 
 } // namespace brooklet

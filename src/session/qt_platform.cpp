@@ -73,7 +73,10 @@ BoxAnswer QtPlatform::showBox(const BoxRequest& box) {
         message.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
     }
-    switch (message.exec()) {
+    const std::optional<int> result = runDialog(message);
+    if (!result)
+        return BoxAnswer::Cancel;
+    switch (*result) {
     case QMessageBox::Yes:
         return BoxAnswer::Yes;
     case QMessageBox::No:
@@ -87,9 +90,16 @@ BoxAnswer QtPlatform::showBox(const BoxRequest& box) {
     }
 }
 
-namespace {
+std::optional<int> QtPlatform::runDialog(QDialog& dialog) {
+    OpenDialog open(*this, [&dialog] { dialog.reject(); });
+    const int result = dialog.exec();
+    if (open.cancelled())
+        return std::nullopt;
+    return result;
+}
 
-std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QFileDialog::AcceptMode mode) {
+std::optional<std::string> QtPlatform::showFileDialog(const FileDialogSettings& settings, bool save) {
+    const QFileDialog::AcceptMode mode = save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen;
     QFileDialog dialog(QApplication::activeWindow(), pathToQt(settings.DialogTitle),
                        pathToQt(settings.InitDir));
     dialog.setAcceptMode(mode);
@@ -106,7 +116,7 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
     const QString name = pathToQt(settings.FileName);
     if (!name.isEmpty() && !name.contains('*'))
         dialog.selectFile(name);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    if (runDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     std::string path = pathFromQt(dialog.selectedFiles().first());
     if (settings.FilterExtension)
@@ -116,14 +126,12 @@ std::optional<std::string> showFileDialog(const FileDialogSettings& settings, QF
     return WithDefaultExtension(path, settings.DefaultExtension);
 }
 
-} // namespace
-
 std::optional<std::string> QtPlatform::showOpenDialog(const FileDialogSettings& dialog) {
-    return showFileDialog(dialog, QFileDialog::AcceptOpen);
+    return showFileDialog(dialog, false);
 }
 
 std::optional<std::string> QtPlatform::showSaveDialog(const FileDialogSettings& dialog) {
-    return showFileDialog(dialog, QFileDialog::AcceptSave);
+    return showFileDialog(dialog, true);
 }
 
 ProgramExit ProgramRunner::runHiddenAndWait(const std::string& program,
@@ -258,7 +266,7 @@ std::optional<PrinterChoice> QtPlatform::showPrinterDialog(const PrinterDialogSe
     dialog.setWindowTitle(pathToQt(settings.DialogTitle));
     dialog.setOption(QAbstractPrintDialog::PrintSelection, true);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, !(settings.Flags & PrintNoPageNumbersFlag));
-    if (dialog.exec() != QDialog::Accepted)
+    if (runDialog(dialog) != QDialog::Accepted)
         return std::nullopt;
     PrinterChoice choice;
     choice.Flags = settings.Flags & ~PrintSelectionFlag;
@@ -348,7 +356,7 @@ bool QtPlatform::showPrintRangeDialog(PrintRangeRecord& record) {
     else if (record.Flags & PrintPageNumbersFlag)
         dialog.setPrintRange(QAbstractPrintDialog::PageRange);
     printer.setCollateCopies(record.Flags & PrintCollateFlag);
-    if (dialog.exec() != QDialog::Accepted)
+    if (runDialog(dialog) != QDialog::Accepted)
         return false;
     record.Flags &= ~(PrintSelectionFlag | PrintPageNumbersFlag | PrintCollateFlag);
     if (dialog.printRange() == QAbstractPrintDialog::Selection)

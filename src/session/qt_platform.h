@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QDialog;
 class QPrinter;
 class QProcess;
 
@@ -62,6 +63,10 @@ public:
 
 private:
     QPrinter& present();
+    // Runs the dialog until it closes: its result, or nothing when it was closed as Cancel by
+    // the end of its session.
+    std::optional<int> runDialog(QDialog& dialog);
+    std::optional<std::string> showFileDialog(const FileDialogSettings& settings, bool save);
     std::unique_ptr<QPrinter> present_;
     ProgramRunner runner_;
 };

@@ -1,7 +1,11 @@
 #include "session/window_host.h"
 
+#include "session/app_context.h"
+
 #include <QEvent>
 #include <QEventLoop>
+
+#include <algorithm>
 
 namespace brooklet {
 namespace {
@@ -20,6 +24,14 @@ private:
 };
 
 } // namespace
+
+WindowHost::WindowHost(AppContext& context) : context_(context) {
+    context_.platform.setWhenDialogsClosed([this] { deleteRetiredWindows(); });
+}
+
+WindowHost::~WindowHost() {
+    context_.platform.setWhenDialogsClosed(nullptr);
+}
 
 void WindowHost::registerWindow(const QString& name, Factory factory, Kind kind) {
     factories_[name] = std::move(factory);
@@ -46,6 +58,7 @@ QWidget* WindowHost::load(const QString& name) {
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->setObjectName(name);
         instances_[name] = window;
+        loadOrder_[name] = ++loads_;
     }
     return window;
 }
@@ -81,10 +94,14 @@ void WindowHost::ShowModal(const QString& name) {
     });
     window->installEventFilter(&watcher);
     QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
+    ++modalDepth_;
     if (window->isVisible())
         loop.exec();
+    --modalDepth_;
     if (window)
         window->removeEventFilter(&watcher);
+    // A window closed while this one was shown may have been waiting here.
+    deleteRetiredWindows();
 }
 
 void WindowHost::unload(const QString& name) {
@@ -92,21 +109,112 @@ void WindowHost::unload(const QString& name) {
         window->close();
 }
 
-void WindowHost::closeSessionWindows() {
-    closingSessionWindows_ = true;
-    for (auto it = instances_.begin(); it != instances_.end();) {
-        auto kind = kinds_.find(it->first);
+std::vector<QWidget*> WindowHost::sessionWindowsNewestFirst() const {
+    std::vector<std::pair<unsigned, QWidget*>> windows;
+    for (const auto& [name, window] : instances_) {
+        auto kind = kinds_.find(name);
         // Only windows the host made belong to a session; the main window was adopted.
-        const bool sessionWindow = kind != kinds_.end() && kind->second == Kind::Session;
-        if (sessionWindow && it->second && it->second->close()) {
-            // The closed window is deleted later; a window of the same name opened by the new
-            // session must be a new one.
-            it = instances_.erase(it);
-        } else {
-            ++it;
+        if (!window || kind == kinds_.end() || kind->second != Kind::Session)
+            continue;
+        auto order = loadOrder_.find(name);
+        windows.emplace_back(order == loadOrder_.end() ? 0u : order->second, window.data());
+    }
+    std::sort(windows.begin(), windows.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<QWidget*> newestFirst;
+    for (const auto& entry : windows)
+        newestFirst.push_back(entry.second);
+    return newestFirst;
+}
+
+bool WindowHost::askAboutTypingInSessionWindows() {
+    std::vector<QPointer<QWidget>> discarded;
+    // A window that stores its typing may hand it to a window that opened it (a sub-area window
+    // of an alternate): that one is asked in a further round.
+    for (;;) {
+        std::vector<QPointer<QWidget>> keep;
+        bool asked = false;
+        for (QWidget* window : sessionWindowsNewestFirst()) {
+            auto* editor = dynamic_cast<SessionEditor*>(window);
+            if (!editor || !window->isVisible() || !editor->holdsTyping() ||
+                std::find(discarded.begin(), discarded.end(), window) != discarded.end())
+                continue;
+            asked = true;
+            const BoxAnswer answer = context_.platform.showBox(editor->typingQuestion());
+            if (answer == BoxAnswer::Yes)
+                keep.emplace_back(window);
+            else if (answer == BoxAnswer::No)
+                discarded.emplace_back(window);
+            else
+                return false;
+        }
+        if (!asked)
+            return true;
+        for (const QPointer<QWidget>& window : keep) {
+            if (!window)
+                continue;
+            // The window may be inside a dialog of its own: it is deleted only when that returns.
+            window->setAttribute(Qt::WA_DeleteOnClose, false);
+            const bool kept = dynamic_cast<SessionEditor*>(window.data())->keepTyping();
+            if (window->isHidden())
+                retire(window);
+            else
+                window->setAttribute(Qt::WA_DeleteOnClose, true);
+            if (!kept) {
+                deleteRetiredWindows();
+                return false;
+            }
+        }
+        deleteRetiredWindows();
+    }
+}
+
+void WindowHost::closeSessionWindows() {
+    // Their dialogs first: each hands Cancel to its window once control returns to it.
+    context_.platform.cancelOpenDialogs();
+    closingSessionWindows_ = true;
+    for (QWidget* window : sessionWindowsNewestFirst())
+        closeAndRetire(window);
+    closingSessionWindows_ = false;
+    deleteRetiredWindows();
+}
+
+bool WindowHost::closeAndRetire(QWidget* window) {
+    // Windows the window opened over itself (a preview) go with it.
+    for (QWidget* child : window->findChildren<QWidget*>()) {
+        if (child->isWindow() && child->isVisible()) {
+            child->setAttribute(Qt::WA_DeleteOnClose, false);
+            child->close();
+            retired_.emplace_back(child);
         }
     }
-    closingSessionWindows_ = false;
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    if (!window->close()) {
+        window->setAttribute(Qt::WA_DeleteOnClose, true);
+        return false;
+    }
+    retire(window);
+    return true;
+}
+
+void WindowHost::retire(QWidget* window) {
+    // A window of the same name opened later must be a new one.
+    for (auto it = instances_.begin(); it != instances_.end(); ++it) {
+        if (it->second == window) {
+            instances_.erase(it);
+            break;
+        }
+    }
+    retired_.emplace_back(window);
+}
+
+void WindowHost::deleteRetiredWindows() {
+    if (context_.platform.openDialogCount() > 0 || modalDepth_ > 0)
+        return;
+    // Deleted when control returns to the event loop, after the routine that runs now.
+    for (const QPointer<QWidget>& window : retired_)
+        if (window)
+            window->deleteLater();
+    retired_.clear();
 }
 
 QStringList WindowHost::registeredNames() const {

@@ -8,16 +8,39 @@
 
 #include <functional>
 #include <map>
+#include <vector>
+
+#include "session/messages.h"
 
 namespace brooklet {
 
 struct AppContext;
 
+// A window that edits data of the session: before a command closes it to begin another session
+// or to end the program, it says whether it holds typing not yet accepted, and keeps it on the
+// user's word.
+class SessionEditor {
+public:
+    // True when the user changed something in the window since it showed.
+    virtual bool holdsTyping() const = 0;
+    // The question asked about the typing, titled with the window's caption, Yes, No and Cancel.
+    virtual BoxRequest typingQuestion() const = 0;
+    // Stores the typing as "Accept Changes" does, which closes the window; false when it could
+    // not be stored (the window then stays open and has said why).
+    virtual bool keepTyping() = 0;
+
+protected:
+    ~SessionEditor() = default;
+};
+
 class WindowHost {
 public:
     using Factory = std::function<QWidget*(AppContext&)>;
 
-    explicit WindowHost(AppContext& context) : context_(context) {}
+    explicit WindowHost(AppContext& context);
+    ~WindowHost();
+    WindowHost(const WindowHost&) = delete;
+    WindowHost& operator=(const WindowHost&) = delete;
 
     // What a window holds, which decides whether it outlives the session it was opened in.
     enum class Kind {
@@ -43,8 +66,17 @@ public:
     template <typename T> T* loadedAs(const QString& name) const { return qobject_cast<T*>(loaded(name)); }
     // Closes the window if it is loaded.
     void unload(const QString& name);
+    // Before a command closes the session's windows: asks about each window that holds typing,
+    // the newest first. When every answer is given, the windows answered Yes store their typing
+    // as Accept does and close; those answered No are left to the closing. A window that holds
+    // typing only after that (handed over by a window it opened) is asked in a further round.
+    // False when the command must stop: Cancel was answered (in the first round nothing has
+    // changed then), or typing could not be stored.
+    bool askAboutTypingInSessionWindows();
     // Closes every editor and tool window as "No Changes" would, asking nothing, before a new
-    // session begins: no window of the old session may write its data into the new one.
+    // session begins: no window of the old session may write its data into the new one. Their
+    // open boxes and dialogs close first, as Cancel. A window still inside its own dialog or
+    // modal window is deleted only once that has returned to it.
     void closeSessionWindows();
     // True while closeSessionWindows closes windows: they close without a question.
     bool closingSessionWindows() const { return closingSessionWindows_; }
@@ -65,6 +97,16 @@ public:
 private:
     // The loaded instance, loaded now if need be; null for a name not registered.
     QWidget* load(const QString& name);
+    // The loaded session windows, the one loaded last first.
+    std::vector<QWidget*> sessionWindowsNewestFirst() const;
+    // Closes the window without deleting it: it leaves the instances and waits to be deleted.
+    // False when it refused to close.
+    bool closeAndRetire(QWidget* window);
+    // A closed window that still stands in the instances leaves them and waits to be deleted.
+    void retire(QWidget* window);
+    // Deletes the closed windows once no dialog or modal window is open, so none of them is
+    // deleted inside its own dialog.
+    void deleteRetiredWindows();
 
     AppContext& context_;
     std::map<QString, Factory> factories_;
@@ -72,6 +114,11 @@ private:
     std::function<void()> mainActivation_;
     bool closingSessionWindows_ = false;
     std::map<QString, QPointer<QWidget>> instances_;
+    // When each instance was loaded, by name.
+    std::map<QString, unsigned> loadOrder_;
+    unsigned loads_ = 0;
+    std::vector<QPointer<QWidget>> retired_;
+    int modalDepth_ = 0;
     QStringList shown_;
 };
 

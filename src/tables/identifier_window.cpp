@@ -167,6 +167,11 @@ void IdentifierWindow::deleteCurrent() {
     movingOn_ = false;
 }
 
+void IdentifierWindow::addHeldData(std::string& data) const {
+    appendTable(data, tabular.IdentifierTable);
+    appendTable(data, tabular.ValueStore);
+}
+
 std::vector<std::string> IdentifierWindow::sectionRecords() {
     storeStep();
     return sectionLines();

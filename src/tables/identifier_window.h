@@ -85,6 +85,8 @@ protected:
     virtual void enterCombo(int) {}
 
     std::vector<std::string> sectionRecords() override;
+    // The entries and values stored away from the controls.
+    void addHeldData(std::string& data) const override;
     // With no entry in the table, Accept leaves the work file empty and DataChanged as it was.
     bool acceptSetsDataChanged() const override;
     void focusBox(int index) override;

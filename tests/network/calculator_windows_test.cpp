@@ -378,5 +378,25 @@ TEST_F(CalculatorWindowsTest, ASubAreaWithATypedAreaOrCurveNumberIsNoLandUseChoi
     EXPECT_EQ(calculator->focusWidget(), tcList(1));
 }
 
+// Cells typed for another sub-area stay in the window's store when the first one shows again:
+// they are typing that a command closing the window asks about.
+TEST_F(CalculatorWindowsTest, CellsOfAnotherSubAreaCountAsTypingWhenTheFirstShowsAgain) {
+    ASSERT_NE(openCalculator(0, "A2"), nullptr);
+    const auto* editor = dynamic_cast<SessionEditor*>(calculator);
+    ASSERT_NE(editor, nullptr);
+    EXPECT_FALSE(editor->holdsTyping());
+    const auto pick = [this](const QString& name) {
+        tcList(1)->setFocus(Qt::MouseFocusReason);
+        tcList(1)->setEditText(name);
+        QTest::keyClick(tcList(1), Qt::Key_Tab);
+    };
+    pick("a2");
+    pressCell(gridRowOf("Residential (25% imp)"), 5);
+    QTest::keyClicks(grid(), "1.5");
+    pick("A2");
+    EXPECT_EQ(grid()->item(gridRowOf("Residential (25% imp)"), 5)->text(), "");
+    EXPECT_TRUE(editor->holdsTyping());
+}
+
 } // namespace
 } // namespace brooklet::test

@@ -337,12 +337,18 @@ TEST_F(EntryWindowTest, TheButtonsCloseWithoutTheQuestion) {
     EXPECT_TRUE(platform.boxes.empty());
 }
 
-TEST_F(EntryWindowTest, ANewSessionClosesATypedInWindowAsNoChangesWould) {
+TEST_F(EntryWindowTest, ANewSessionAsksAboutATypedInWindowAndNoClosesItAsNoChangesWould) {
     open();
     typeInto(2, "old session");
+    platform.answers.push_back(BoxAnswer::No);
     clickMenuItem("mnuFileItem(1)");
     EXPECT_TRUE(closed());
-    EXPECT_TRUE(platform.boxes.empty());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].text,
+              "Keep the changes made in the window Two Boxes Editor before it closes (Yes "
+              "accepts them, No discards them, Cancel stops the command and returns to "
+              "the window)?");
+    EXPECT_EQ(platform.boxes[0].title, "Two Boxes Editor");
     EXPECT_EQ(fileLength(workFile(3)), 0u);
     EXPECT_FALSE(session().DataChanged);
 }

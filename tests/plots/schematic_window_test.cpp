@@ -81,17 +81,50 @@ TEST_F(SchematicTest, EachActivationReadsTheSavedFileAgain) {
     EXPECT_EQ(window->schematic().network().count(), 2);
 }
 
+// The pixels of the sub-area picture's green on the surface, the legend hidden.
+int subAreaPixels(const QImage& image) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == QColor(90, 180, 80) ? 1 : 0;
+    return count;
+}
+
 TEST_F(SchematicTest, SubAreasToggledOffHideAndTheTreeClosesUp) {
     saveSmallNetwork();
     frmTopoModel* window = open();
+    item(window, "mnuLegend")->trigger();
     const double r2Before = window->schematic().network().element(3).Left;
+    // What is drawn: both sub-areas' pictures, and their labels as text.
+    EXPECT_GT(subAreaPixels(window->surfaceImage(SchematicBackground)), 0);
+    const QByteArray drawnBefore = window->exportBytes(folder.file("before.svg"));
+    EXPECT_TRUE(drawnBefore.contains(">S1</text>"));
+    EXPECT_TRUE(drawnBefore.contains(">S2</text>"));
     item(window, "mnuSubAreas")->trigger();
     EXPECT_FALSE(item(window, "mnuSubAreas")->isChecked());
     EXPECT_EQ(window->schematic().ElementCount(), 4);
     EXPECT_EQ(window->schematic().network().element(1).Weight, 2);
     EXPECT_EQ(window->schematic().network().element(3).Left, r2Before);
     EXPECT_EQ(window->schematic().network().element(4).Left, 550);
-    EXPECT_EQ(window->tipAt(pixelOf(window, 0, 0)), "");
+    // Neither picture nor label of a sub-area is drawn any more, not even where the view takes
+    // in the places they had; the reaches still are.
+    Schematic& schematic = window->schematic();
+    schematic.ViewLeft -= 2000;
+    schematic.ViewRight += 2000;
+    schematic.ViewTop -= 2000;
+    schematic.ViewBottom += 2000;
+    window->ApplyView();
+    EXPECT_EQ(subAreaPixels(window->surfaceImage(SchematicBackground)), 0);
+    const QByteArray drawnAfter = window->exportBytes(folder.file("after.svg"));
+    EXPECT_FALSE(drawnAfter.contains(">S1</text>"));
+    EXPECT_FALSE(drawnAfter.contains(">S2</text>"));
+    EXPECT_TRUE(drawnAfter.contains(">R2</text>"));
+    EXPECT_TRUE(drawnAfter.contains(">DAM</text>"));
+    for (int i : {5, 6}) {
+        const NetworkElement& subArea = window->schematic().network().element(i);
+        EXPECT_EQ(window->tipAt(pixelOf(window, subArea.Left, subArea.Top) + QPoint(5, 5)), "")
+            << subArea.Name;
+    }
     // A new activation reads the file again with sub-areas shown.
     window->Form_Activate();
     EXPECT_TRUE(item(window, "mnuSubAreas")->isChecked());

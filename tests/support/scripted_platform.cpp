@@ -4,14 +4,47 @@
 #include "session/section_table.h"
 #include "session/text_file.h"
 
+#include <QEventLoop>
+
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace brooklet::test {
+
+void ScriptedPlatform::whileNextDialogOpen(QWidget* asker, std::function<void()> steps) {
+    asker_ = asker;
+    steps_ = std::move(steps);
+}
+
+bool ScriptedPlatform::holdOpen(OpenDialog& open) {
+    if (steps_) {
+        auto steps = std::exchange(steps_, nullptr);
+        const QPointer<QWidget> asker = std::exchange(asker_, nullptr);
+        QEventLoop loop;
+        QMetaObject::invokeMethod(
+            &loop,
+            [&] {
+                steps();
+                loop.quit();
+            },
+            Qt::QueuedConnection);
+        loop.exec();
+        if (!asker)
+            ADD_FAILURE() << "the window that asked was deleted while its dialog was open";
+    }
+    if (open.cancelled())
+        ++dialogsCancelled;
+    return open.cancelled();
+}
 
 BoxAnswer ScriptedPlatform::showBox(const BoxRequest& box) {
     boxes.push_back(box);
     if (onBox)
         onBox(box);
+    OpenDialog open(*this, nullptr);
+    if (holdOpen(open))
+        return BoxAnswer::Cancel;
     if (answers.empty()) {
         if (box.buttons != BoxButtons::Ok)
             ADD_FAILURE() << "a question nobody scripted an answer for: " << box.text;
@@ -36,11 +69,17 @@ std::optional<std::string> nextPick(std::deque<std::optional<std::string>>& pick
 
 std::optional<std::string> ScriptedPlatform::showOpenDialog(const FileDialogSettings& dialog) {
     openDialogs.push_back(dialog);
+    OpenDialog open(*this, nullptr);
+    if (holdOpen(open))
+        return std::nullopt;
     return nextPick(openPicks, "open");
 }
 
 std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSettings& dialog) {
     saveDialogs.push_back(dialog);
+    OpenDialog open(*this, nullptr);
+    if (holdOpen(open))
+        return std::nullopt;
     auto pick = nextPick(savePicks, "save");
     int filter = dialog.FilterIndex;
     if (!saveFilterPicks.empty()) {
@@ -93,6 +132,9 @@ private:
 
 std::optional<PrinterChoice> ScriptedPlatform::showPrinterDialog(const PrinterDialogSettings& dialog) {
     printerDialogs.push_back(dialog);
+    OpenDialog open(*this, nullptr);
+    if (holdOpen(open))
+        return std::nullopt;
     if (printerAnswers.empty()) {
         ADD_FAILURE() << "a printer dialog nobody scripted an answer for";
         return std::nullopt;
@@ -110,6 +152,9 @@ std::optional<PrinterChoice> ScriptedPlatform::showPrinterDialog(const PrinterDi
 
 bool ScriptedPlatform::showPrintRangeDialog(PrintRangeRecord& record) {
     printRangeDialogs.push_back(record);
+    OpenDialog open(*this, nullptr);
+    if (holdOpen(open))
+        return false;
     if (printRangeAnswers.empty()) {
         ADD_FAILURE() << "a print dialog nobody scripted an answer for";
         return false;

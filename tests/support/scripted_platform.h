@@ -1,6 +1,9 @@
 #pragma once
 // The platform of window tests: answers boxes and file dialogs from queues the test fills, and
 // records every box and dialog shown so a test can assert their exact words.
+#include <QPointer>
+#include <QWidget>
+
 #include <deque>
 #include <functional>
 #include <optional>
@@ -110,8 +113,22 @@ public:
     // The texts of all boxes shown so far.
     std::vector<std::string> boxTexts() const;
 
+    // Steps that run while the next box or dialog is open, inside the dialog's own event loop,
+    // as the events of a real dialog run: a test reaches other windows then, as a screen reader
+    // can. A dialog closed meanwhile hands back Cancel and takes no scripted answer. Asker is
+    // the window that asks: a real dialog is its child, so its deletion while the dialog is
+    // still open is a failure.
+    void whileNextDialogOpen(QWidget* asker, std::function<void()> steps);
+    // The dialogs closed as Cancel while steps ran.
+    int dialogsCancelled = 0;
+
 private:
+    // Runs the steps, if any, while the dialog is open; true when it was closed as Cancel.
+    bool holdOpen(OpenDialog& open);
+
     ProgramRunner runner_;
+    QPointer<QWidget> asker_;
+    std::function<void()> steps_;
 };
 
 } // namespace brooklet::test
