@@ -28,7 +28,9 @@ for file in usr/bin/brooklet \
             usr/share/metainfo/org.brooklet.Brooklet.metainfo.xml \
             usr/share/icons/hicolor/scalable/apps/org.brooklet.Brooklet.svg \
             usr/share/icons/hicolor/48x48/apps/org.brooklet.Brooklet.png \
-            usr/share/icons/hicolor/256x256/apps/org.brooklet.Brooklet.png; do
+            usr/share/icons/hicolor/256x256/apps/org.brooklet.Brooklet.png \
+            usr/share/doc/brooklet/guide.md \
+            usr/share/doc/brooklet/guide/frmMain_loaded.png; do
   [ -s "$root/$file" ] || fail "the package does not hold $file"
 done
 dpkg-deb -f "$package" Version | grep -qx "$version" || fail "the package's version is not $version"

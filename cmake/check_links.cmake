@@ -1,0 +1,27 @@
+# Fails when a document links a file that does not exist: every link and picture of the form
+# ](path) that is not a web address or an anchor is looked up beside the document.
+# Run as: cmake -DDOCUMENTS="a.md;b.md" -P check_links.cmake
+set(missing "")
+foreach(document IN LISTS DOCUMENTS)
+  get_filename_component(folder "${document}" DIRECTORY)
+  file(READ "${document}" text)
+  # Brackets group list items in CMake: they are taken out before the links are listed.
+  string(REPLACE "[" "<" text "${text}")
+  string(REPLACE "]" ">" text "${text}")
+  string(REGEX MATCHALL ">\\([^)# ]+" links "${text}")
+  list(LENGTH links count)
+  foreach(link IN LISTS links)
+    string(SUBSTRING "${link}" 2 -1 target)
+    if(target MATCHES "^[a-z]+:")
+      continue()
+    endif()
+    if(NOT EXISTS "${folder}/${target}")
+      list(APPEND missing "${document}: ${target}")
+    endif()
+  endforeach()
+  message(STATUS "${document}: ${count} links")
+endforeach()
+if(missing)
+  list(JOIN missing "\n  " text)
+  message(FATAL_ERROR "Links to files that do not exist:\n  ${text}")
+endif()
