@@ -317,5 +317,20 @@ TEST_F(CrossSectionEditorTest, PastedRowsAreCheckedByTheCrossSectionRules) {
     EXPECT_EQ(cellColour(2, 1), UntouchedColour);
 }
 
+TEST_F(CrossSectionEditorTest, CtrlEnterWritesTheValueTypedInABoxAsAClickOnAcceptDoes) {
+    writeWorkFile(TwoSections);
+    open();
+    chooseAndGoToRows("X2");
+    typeRow(6, {"75", "50", "20", "12"});
+    // The friction slope typed, and the window accepted from the keyboard while the box has the
+    // focus.
+    QTest::keyClicks(box(10), ".004");
+    QTest::keyClick(box(10), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    std::vector<std::string> expected = TwoSections;
+    expected.insert(expected.end() - 1, point({"75.", "50.", "20.", "12.", ".004"}));
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+}
+
 } // namespace
 } // namespace brooklet::test

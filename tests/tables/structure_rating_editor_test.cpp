@@ -648,5 +648,28 @@ TEST_F(StructureRatingEditorTest, CopyPutsTheCurrentRowOrTheRowsPickedWithShiftO
     EXPECT_EQ(gridRow(3), (Texts{"104.", "200.", "30."}));
 }
 
+TEST_F(StructureRatingEditorTest, CtrlEnterWritesTheValueTypedInABoxAsAClickOnAcceptDoes) {
+    open();
+    enterName("Gate 3");
+    typeAndPress(2, "1200", Qt::Key_Return);
+    typeRow(3, {"1200", "0", "0"});
+    typeRow(3, {"1201.5", "12"});
+    // The storage typed, and the window accepted from the keyboard while the box has the focus.
+    QTest::keyClicks(box(5), "3.25");
+    QTest::keyClick(box(5), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "Gate 3", "1200."}), point("1200.", "0.", "0."),
+                                     point("1201.5", "12.", "3.25"), ""}));
+}
+
+TEST_F(StructureRatingEditorTest, CtrlEnterTakesANameTypedButNotLeft) {
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "NEW");
+    QTest::keyClick(list(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "NEW", ""}), ""}));
+}
+
 } // namespace
 } // namespace brooklet::test
