@@ -5,8 +5,9 @@
 //   green cell; deleting or inserting a cell shifts everything behind it;
 // - a row grid holds records, one per row, kept in ascending order of a key column and edited
 //   through the window's boxes; the marked row is green.
-// Both keep several tables, one per identifier, in one shared value store. The variables and
-// tables below serve the one grid window open at a time; the window fills them in on load.
+// Both keep several tables, one per identifier, in one value store. Each grid window holds its
+// own set of the variables and tables below and fills it in on load, so windows open at the
+// same time never write into each other's tables.
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ constexpr int FlowGridColumns = 5;
 constexpr int NoMarkedRow = -999;
 
 struct GridContext {
-    // The shared grid variables.
+    // The grid variables.
     int MarkedRow = NoMarkedRow;
     int MarkedCol = 0;
     // True while a routine moves the cell: the windows' cell-change handlers then do nothing.
@@ -56,7 +57,7 @@ struct GridContext {
     // Set when a key moved the cursor on to a new row.
     bool GridGrew = false;
 
-    // The shared tabular tables: one entry per identifier (its identifier and fields), the first
+    // The tabular tables: one entry per identifier (its identifier and fields), the first
     // and last position of each table in ValueStore (0 and 0 for none), indexed from 1.
     TextTable IdentifierTable{1, 1};
     std::vector<int> TableFirst{0, 0};
@@ -69,6 +70,15 @@ struct GridContext {
     int ValueCount = 0;
     // One field a position for flow grids; one field per column for row grids.
     TextTable ValueStore{1, 1};
+};
+
+// A window that holds tabular tables of its own: the plot window opened from it draws from them.
+class TabularTablesHolder {
+public:
+    virtual const GridContext& tabularTables() const = 0;
+
+protected:
+    ~TabularTablesHolder() = default;
 };
 
 // The tables at a window's load: no table, one empty identifier entry, and one store position

@@ -64,6 +64,10 @@ void EntryWindow::press(QPushButton* button, void (EntryWindow::*routine)()) {
     if (!button) {
         (this->*routine)();
     } else if (button->isEnabled() && button->isVisible()) {
+        // A click gives the button the focus first, and the box or list being typed in is left
+        // and stores its text; a key must do the same, or the typing is lost.
+        if (button->focusPolicy() & Qt::ClickFocus)
+            button->setFocus(Qt::MouseFocusReason);
         button->click();
     }
 }

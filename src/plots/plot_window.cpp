@@ -15,6 +15,7 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include "editing/grid_editor.h"
 #include "plots/picture_export.h"
 #include "plots/plot_page_window.h"
 #include "plots/plot_painter.h"
@@ -235,7 +236,7 @@ frmIO_Plots::frmIO_Plots(AppContext& context, QWidget* parent) : QMainWindow(par
     plotpoints->setChecked(view_.plotpoints);
     plotlines->setChecked(view_.plotlines);
     plotgrid->setChecked(view_.plotgrid);
-    PlotSource source{&context_.tabular, publishedEntry(), &session.Units, session.CurrentFile};
+    PlotSource source{sourceTables(), publishedEntry(), &session.Units, session.CurrentFile};
     PreparePlot(plot, source, view_);
     Label1->setText(fromBytes(view_.Label1));
     Label2->setText(pathToQt(view_.Label2));
@@ -244,12 +245,21 @@ frmIO_Plots::frmIO_Plots(AppContext& context, QWidget* parent) : QMainWindow(par
     Draw();
 }
 
-int frmIO_Plots::publishedEntry() const {
+const QWidget* frmIO_Plots::sourceEditor() const {
     const int kind = context_.plots.PlotKind;
     if (kind < UnitHydrographPlot || kind > CrossSectionPlot)
-        return 0;
-    const QWidget* editor = context_.windows.loaded(SourceWindows[kind]);
+        return nullptr;
+    return context_.windows.loaded(SourceWindows[kind]);
+}
+
+int frmIO_Plots::publishedEntry() const {
+    const QWidget* editor = sourceEditor();
     return editor ? editor->property("Tag").toString().toInt() : 0;
+}
+
+const GridContext* frmIO_Plots::sourceTables() const {
+    const auto* holder = dynamic_cast<const TabularTablesHolder*>(sourceEditor());
+    return holder ? &holder->tabularTables() : nullptr;
 }
 
 void frmIO_Plots::Draw() {

@@ -7,8 +7,9 @@
 //
 // Hand-over from an editor: the editor publishes the number of its current entry as the text of
 // its own window's "Tag" property, sets context.plots.PlotKind and opens the window modally
-// through context.windows.ShowModal("frmIO_Plots"). The plot window reads the entry from the editor named for
-// its kind: frmDimHyd, frmInpHyd, frmRainDist, frmStruct, frmXsect.
+// through context.windows.ShowModal("frmIO_Plots"). The plot window reads the entry, and the
+// tables the editor holds (TabularTablesHolder), from the editor named for its kind: frmDimHyd,
+// frmInpHyd, frmRainDist, frmStruct, frmXsect.
 #include <QMainWindow>
 
 #include "editing/widgets.h"
@@ -54,7 +55,11 @@ public:
 
 private:
     friend class PlotSurface;
+    // The editor named for the plot kind, null for a plot of model results or when it is not open.
+    const QWidget* sourceEditor() const;
     int publishedEntry() const;
+    // The tables of that editor, null when there are none.
+    const GridContext* sourceTables() const;
     void paintSurface(QPainter& painter) const;
     void paintLegendStrip(QPainter& painter) const;
     void zoomin();

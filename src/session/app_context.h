@@ -1,9 +1,8 @@
 #pragma once
 // What the program holds as a whole: the session, the platform services and the open windows.
 // Windows receive it by reference; a test makes its own in its own program folder.
-#include "editing/grid_editor.h"
-#include "editing/watershed_tables.h"
 #include "editing/plot_data.h"
+#include "editing/watershed_tables.h"
 #include "session/platform.h"
 #include "session/section_table.h"
 #include "session/window_host.h"
@@ -22,7 +21,6 @@ struct AppContext {
     int CurrentAlternate = 0;
     // True while an external program runs and has not been told to stop.
     bool ProgramRunning = false;
-    GridContext tabular;       // the grid variables and tabular tables of the grid window open
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
     PlotData plots;            // the plot request and arrays handed to the plot window
 };

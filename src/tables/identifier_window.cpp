@@ -31,8 +31,7 @@ bool isMoveKey(const QKeyEvent* key) {
 
 IdentifierWindow::IdentifierWindow(AppContext& context, EntryDesign design, TabularDesign tabularDesign,
                                    QWidget* parent)
-    : EntryWindow(context, std::move(design), parent), tabular(context.tabular),
-      tabularDesign_(std::move(tabularDesign)) {}
+    : EntryWindow(context, std::move(design), parent), tabularDesign_(std::move(tabularDesign)) {}
 
 int IdentifierWindow::currentEntry() const {
     return tabular.TableNext;

@@ -1,8 +1,8 @@
 #pragma once
 // The identifier handling of the tabular windows: the editable combo box cmbInp(1) of the
-// section's identifiers with its hidden shadow box txtInp(1), the shared tabular tables
-// (AppContext::tabular) that the window fills from its work file on load, and the steps that
-// every tabular window runs on them:
+// section's identifiers with its hidden shadow box txtInp(1), the tabular tables that the window
+// holds as its own and fills from its work file on load (two windows open at once never share
+// them), and the steps that every tabular window runs on them:
 // - entering the combo box: it takes over the text and colour of its shadow box;
 // - leaving it: the text is cut to 10 characters, the store step runs, the identifier table is
 //   searched (trimmed, case not counting, the last match winning; a blank text finds a deleted
@@ -15,7 +15,7 @@
 // with addIdentifierCombo (and addCombo for further combo boxes), addBox, addCommandButtons,
 // then call Form_Load. Boxes 1 to IdentifierFields are the entry's fields, box i holding field i
 // of the identifier table. Implement:
-//   readSection / sectionLines   the section's codec on the shared tables;
+//   readSection / sectionLines   the section's codec on the window's tables;
 //   storeGrid                    the grid into table TableCurrent (StoreRowGrid or StoreFlowGrid);
 //   showEntryGrid, clearGrid     the grid of an entry shown, and of a new or deleted entry;
 //   startNewEntry                the boxes of a new entry;
@@ -23,14 +23,13 @@
 //   moveOn                       the keyboard flow from a box or combo box index.
 // The row grid windows (structure rating, cross section) build on GridEditorWindow, which
 // implements these for a row grid.
+#include "editing/grid_editor.h"
 #include "options/entry_window.h"
 #include "session/messages.h"
 
 class QComboBox;
 
 namespace brooklet {
-
-struct GridContext;
 
 // What a tabular window is beyond its entry design.
 struct TabularDesign {
@@ -40,7 +39,7 @@ struct TabularDesign {
     bool ChecksShadowBox = false; // the shadow box is checked before the combo box takes its colour
 };
 
-class IdentifierWindow : public EntryWindow {
+class IdentifierWindow : public EntryWindow, public TabularTablesHolder {
     Q_OBJECT
     // The entry handed to the plot window: the number of the entry on show, as text.
     Q_PROPERTY(QString Tag READ Tag)
@@ -48,6 +47,7 @@ public:
     QString Tag() const { return Tag_; }
     // The entry named by the combo box, 0 when none (TableNext).
     int currentEntry() const;
+    const GridContext& tabularTables() const override { return tabular; }
 
     // Leaving cmbInp(1).
     void leaveIdentifier();
@@ -72,7 +72,7 @@ protected:
     void addCommandButtons(const QString& plotCaption, const QString& deleteCaption,
                            const QString& cancelCaption, const QString& finishedCaption);
 
-    // The section from the shared tables, at Accept, after the store step.
+    // The section from the window's tables, at Accept, after the store step.
     virtual std::vector<std::string> sectionLines() = 0;
     virtual void storeGrid() = 0;
     virtual void showEntryGrid(int entry) = 0;
@@ -101,7 +101,8 @@ protected:
 
     const TabularDesign& tabularDesign() const { return tabularDesign_; }
 
-    GridContext& tabular;
+    // The window's own tabular tables.
+    GridContext tabular;
     ControlArray<QComboBox> cmbInp;
     QPushButton* CmdPlot = nullptr;
     QPushButton* cmdDelCur = nullptr;

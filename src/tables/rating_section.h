@@ -6,7 +6,7 @@
 // left-justified and blank-padded to its width; a value wider than its field is not cut and
 // pushes what follows to the right. On reading, a field is the trim of its columns.
 //
-// The tables are the shared tabular tables of the grid windows: the identifier table (field 1
+// The tables are the tabular tables of the grid window: the identifier table (field 1
 // the identifier, then the per-identifier fields), TableFirst and TableLast, and the row store
 // with one field per rating column.
 #include <string>

@@ -185,7 +185,7 @@ std::string frmStorm::boxText(int index) const {
 }
 
 void frmStorm::setDefaults() {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     g.GridRowsUsed = 0;
     g.GridRow = NoCurrentRow;
     g.MarkedRow = NoMarkedRow;
@@ -199,7 +199,7 @@ void frmStorm::setDefaults() {
 }
 
 void frmStorm::readSection(const std::vector<std::string>& lines) {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     const std::vector<StormRecord> rows = ReadStormSection(lines);
     if (grid->Rows() < int(rows.size()) + 1)
         grid->setRows(int(rows.size()) + 1);
@@ -229,13 +229,13 @@ void frmStorm::afterLoad() {
 }
 
 void frmStorm::addSpareRowIfFull() {
-    if (context.tabular.GridRowsUsed + 1 >= grid->Rows())
+    if (tabular.GridRowsUsed + 1 >= grid->Rows())
         grid->AddItem(std::string(), grid->Rows());
 }
 
 std::vector<StormRecord> frmStorm::gridRows() const {
     std::vector<StormRecord> rows;
-    for (int row = 1; row <= context.tabular.GridRowsUsed; ++row) {
+    for (int row = 1; row <= tabular.GridRowsUsed; ++row) {
         StormRecord record;
         for (int col = 0; col < StormFields; ++col)
             record[size_t(col)] = grid->cellText(row, col);
@@ -245,7 +245,7 @@ std::vector<StormRecord> frmStorm::gridRows() const {
 }
 
 int frmStorm::currentRow() const {
-    return context.tabular.GridRow;
+    return tabular.GridRow;
 }
 
 std::vector<std::string> frmStorm::sectionRecords() {
@@ -254,7 +254,7 @@ std::vector<std::string> frmStorm::sectionRecords() {
 }
 
 void frmStorm::lookUpPair() {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     g.GridRow = NoCurrentRow;
     const std::string storm = trim(boxText(StormBox));
     const std::string gage = trim(boxText(RainGageBox));
@@ -293,7 +293,7 @@ void frmStorm::combosFollowBoxes() {
 }
 
 bool frmStorm::applyBox(int index) {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     bool valid = true;
     const std::string text = boxText(index);
     if (isBlank(text)) {
@@ -382,7 +382,7 @@ void frmStorm::optionPressed(int k) {
 }
 
 void frmStorm::pickRow(int row) {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     g.GridRow = row;
     SelectGridRow(g, *grid, *boxes, true);
     optionFollowsBox6();
@@ -390,7 +390,7 @@ void frmStorm::pickRow(int row) {
 }
 
 void frmStorm::deleteRow(int row) {
-    GridContext& g = context.tabular;
+    GridContext& g = tabular;
     pickRow(row);
     if (g.GridRow < 1 || g.GridRow > g.GridRowsUsed)
         return;

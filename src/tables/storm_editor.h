@@ -5,6 +5,7 @@
 // pair that has no row yet starts a new one. A left click on a row shows it in the boxes, a
 // right click deletes it after a question. Ctrl+C in the grid copies the rows as a spreadsheet
 // takes them, Ctrl+V takes rows from a spreadsheet in through the boxes, as if typed.
+#include "editing/grid_editor.h"
 #include "options/entry_window.h"
 #include "tables/storm_analysis.h"
 
@@ -74,6 +75,8 @@ private:
     ControlArray<QComboBox> cmbInp;
     ControlArray<QRadioButton> Opt1;
     ControlArray<QLabel> lblComment;
+    // The window's own grid variables: the rows in use, the current and the marked row.
+    GridContext tabular;
     std::unique_ptr<QtGrid> grid;
     std::unique_ptr<QtBoxes> boxes;
     // While Enter moves the focus on, the box it leaves has been applied already.

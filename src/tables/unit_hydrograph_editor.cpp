@@ -16,7 +16,7 @@
 namespace brooklet {
 namespace {
 
-// The one table of the section, in the shared tables.
+// The one table of the section, in the window's tables.
 constexpr int TheTable = 1;
 
 } // namespace
@@ -44,7 +44,7 @@ void frmDimHyd::buildControls() {
         {captionLabel(
             this, "Label4(0)",
             "Click grid cell to edit previously entered data. RIGHT click to insert or delete  a value.")});
-    panel_ = new ValueGridPanel(this, context, {10, false, 1}, "Dimensionless Hydrograph Points",
+    panel_ = new ValueGridPanel(this, context, tabular, {10, false, 1}, "Dimensionless Hydrograph Points",
                                 {[this] { updatePlotButton(); },
                                  [this] {
                                      if (panel_->values().Index > 2) {
@@ -69,16 +69,15 @@ void frmDimHyd::buildControls() {
 }
 
 void frmDimHyd::setDefaults() {
-    resetTabularTables(context.tabular, 1, 1);
-    addTable(context.tabular);
+    resetTabularTables(tabular, 1, 1);
+    addTable(tabular);
 }
 
 void frmDimHyd::readSection(const std::vector<std::string>& lines) {
-    LoadValueTables(context.tabular, {{{}, ReadUnitHydrographSection(lines)}}, 1);
+    LoadValueTables(tabular, {{{}, ReadUnitHydrographSection(lines)}}, 1);
 }
 
 void frmDimHyd::afterLoad() {
-    GridContext& tabular = context.tabular;
     tabular.TableCurrent = TheTable;
     tabular.TableNext = TheTable;
     if (tabular.TableFirst[TheTable] == 0) {
@@ -99,8 +98,8 @@ void frmDimHyd::changeEvent(QEvent* event) {
 
 void frmDimHyd::resetTable() {
     panel_->values().startTable("0", 1);
-    context.tabular.TableFirst[TheTable] = 0;
-    context.tabular.TableLast[TheTable] = 0;
+    tabular.TableFirst[TheTable] = 0;
+    tabular.TableLast[TheTable] = 0;
     CmdPlot->setEnabled(false);
     cmdDelAll->setEnabled(false);
 }
@@ -140,7 +139,7 @@ std::vector<std::string> frmDimHyd::sectionRecords() {
     if (values.Index <= 2)
         return {};
     values.store();
-    return WriteUnitHydrographSection(StoredValueTables(context.tabular)[0].Values);
+    return WriteUnitHydrographSection(StoredValueTables(tabular)[0].Values);
 }
 
 } // namespace brooklet

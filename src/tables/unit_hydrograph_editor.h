@@ -2,6 +2,7 @@
 // frmDimHyd: the editor of section 2, the dimensionless unit hydrograph: one table of values
 // from 0 to 1 in any order, typed into the value grid; no identifier and no box beside it.
 // The table is written only with more than two values.
+#include "editing/grid_editor.h"
 #include "options/entry_window.h"
 
 class QTableWidget;
@@ -10,10 +11,11 @@ namespace brooklet {
 
 class ValueGridPanel;
 
-class frmDimHyd : public EntryWindow {
+class frmDimHyd : public EntryWindow, public TabularTablesHolder {
     Q_OBJECT
 public:
     explicit frmDimHyd(AppContext& context, QWidget* parent = nullptr);
+    const GridContext& tabularTables() const override { return tabular; }
 
     ValueGridPanel& panel() { return *panel_; }
     QTableWidget* grid() const;
@@ -37,6 +39,8 @@ private:
     void resetTable();
     void updatePlotButton();
 
+    // The window's own tables: its one table in the value store.
+    GridContext tabular;
     ValueGridPanel* panel_ = nullptr;
     QPushButton* CmdPlot = nullptr;
     QPushButton* cmdDelAll = nullptr;

@@ -4,7 +4,7 @@
 // from cell to cell. Value n stands in row (n - 1) div 5, column (n - 1) mod 5; the first
 // value is the table's zero, and the cursor does not stop on it. The window owns one of these
 // beside its grid and hands it the grid's keys, clicks and cell changes; the values go to the
-// shared value store with the store step.
+// window's value store with the store step.
 #include <string>
 #include <vector>
 

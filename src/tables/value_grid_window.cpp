@@ -32,9 +32,9 @@ QLabel* captionLabel(QWidget* window, const QString& name, const QString& captio
     return label;
 }
 
-ValueGridPanel::ValueGridPanel(QWidget* window, AppContext& context, const ValueGridRules& rules,
-                               const QString& accessibleName, Hooks hooks)
-    : QObject(window), context_(context), hooks_(std::move(hooks)) {
+ValueGridPanel::ValueGridPanel(QWidget* window, AppContext& context, GridContext& tables,
+                               const ValueGridRules& rules, const QString& accessibleName, Hooks hooks)
+    : QObject(window), context_(context), tables_(tables), hooks_(std::move(hooks)) {
     MSFlexGrid1 = new QTableWidget(rules.Rows, FlowGridColumns, window);
     nameControl(MSFlexGrid1, "MSFlexGrid1", accessibleName);
     MSFlexGrid1->horizontalHeader()->hide();
@@ -46,7 +46,7 @@ ValueGridPanel::ValueGridPanel(QWidget* window, AppContext& context, const Value
     MSFlexGrid1->setFixedWidth(FlowGridColumns * twips(ColumnWidthTwips) + 2 * MSFlexGrid1->frameWidth() +
                                MSFlexGrid1->verticalScrollBar()->sizeHint().width());
     grid_ = std::make_unique<QtGrid>(MSFlexGrid1);
-    values_ = std::make_unique<ValueGrid>(context.tabular, *grid_, rules);
+    values_ = std::make_unique<ValueGrid>(tables_, *grid_, rules);
 
     mnuPopUp = new QMenu("Insert/Delete", window);
     nameControl(mnuPopUp, "mnuPopUp", "Insert/Delete");
@@ -61,7 +61,7 @@ ValueGridPanel::ValueGridPanel(QWidget* window, AppContext& context, const Value
     connect(mnuPopUp, &QMenu::aboutToHide, mnuDelInsItem2, [this] { mnuDelInsItem2->setEnabled(true); });
 
     connect(MSFlexGrid1, &QTableWidget::currentCellChanged, this, [this](int row, int col) {
-        if (context_.tabular.GridBusy || row < 0 || col < 0)
+        if (tables_.GridBusy || row < 0 || col < 0)
             return;
         values_->cellChanged(row, col);
         hooks_.cellChanged();
@@ -163,7 +163,7 @@ NamedValueWindow::NamedValueWindow(AppContext& context, EntryDesign design, Tabu
       valueDesign(std::move(valueDesign)) {}
 
 QTableWidget* NamedValueWindow::addValueGrid(const QString& accessibleName) {
-    panel_ = new ValueGridPanel(this, context, valueDesign.Rules, accessibleName,
+    panel_ = new ValueGridPanel(this, context, tabular, valueDesign.Rules, accessibleName,
                                 {[this] { updatePlotButton(); },
                                  [this] {
                                      if (panel_->values().Index > 2) {

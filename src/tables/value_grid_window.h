@@ -45,7 +45,8 @@ public:
         std::function<void()> clickedEmpty;
     };
 
-    ValueGridPanel(QWidget* window, AppContext& context, const ValueGridRules& rules,
+    // The panel works on the window's own tables.
+    ValueGridPanel(QWidget* window, AppContext& context, GridContext& tables, const ValueGridRules& rules,
                    const QString& accessibleName, Hooks hooks);
     ~ValueGridPanel() override;
 
@@ -70,6 +71,7 @@ private:
     void menuItem(bool insert);
 
     AppContext& context_;
+    GridContext& tables_;
     Hooks hooks_;
     std::unique_ptr<QtGrid> grid_;
     std::unique_ptr<ValueGrid> values_;

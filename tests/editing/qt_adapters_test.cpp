@@ -196,13 +196,10 @@ TEST(QtBoxes, BoxesOfARowGridTakeTextAndColour) {
     EXPECT_EQ(background(&discharge), UntouchedColour);
 }
 
-TEST(AppContextTables, TheContextHoldsTheGridVariablesAndWatershedTables) {
+TEST(AppContextTables, TheContextHoldsTheWatershedTables) {
     ProgramFolder folder;
     ScriptedPlatform platform;
     AppContext context(platform);
-    EXPECT_EQ(context.tabular.MarkedRow, NoMarkedRow);
-    EXPECT_FALSE(context.tabular.GridBusy);
-    EXPECT_EQ(context.tabular.TableCount, 0);
     EXPECT_EQ(context.watershed.SubAreaCount, 0);
     EXPECT_EQ(context.watershed.AlternateCount, 0);
     EXPECT_EQ(context.CurrentAlternate, 0);

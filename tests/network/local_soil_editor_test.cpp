@@ -272,8 +272,6 @@ TEST_F(DisplaySoilTest, TheFindBoxStopsAtTheFirstSoilInSortedOrderThatBeginsWith
     findBox()->clear();
     QTest::keyClicks(findBox(), "S");
     EXPECT_EQ(markedRows(), std::vector<int>{4});
-    // The marking is the display's own: the shared grid variables are not moved.
-    EXPECT_EQ(context->tabular.MarkedRow, -999);
 }
 
 TEST_F(DisplaySoilTest, ABlankCannotBeTypedAtEitherEnd) {

@@ -7,11 +7,21 @@
 
 #include "plot_window_fixture.h"
 
+#include "editing/grid_editor.h"
+
 namespace brooklet::test {
 namespace {
 
+// Stands in for a table editor: a window that holds tables of its own.
+class EditorStandIn : public QWidget, public TabularTablesHolder {
+public:
+    const GridContext& tabularTables() const override { return tables; }
+    GridContext tables;
+};
+
 TEST_F(PlotWindowTest, AStructureFromTheEditorsTablesShowsFlowAndStorageAgainstElevation) {
-    GridContext& tables = context->tabular;
+    auto* editor = new EditorStandIn;
+    GridContext& tables = editor->tables;
     tables.IdentifierTable.redim(2, 2);
     tables.IdentifierTable(1, 2) = "MILLDAM";
     tables.ValueStore.redim(3, 3);
@@ -21,7 +31,6 @@ TEST_F(PlotWindowTest, AStructureFromTheEditorsTablesShowsFlowAndStorageAgainstE
             tables.ValueStore(c + 1, r + 1) = rows[r][c];
     tables.TableFirst = {0, 0, 1};
     tables.TableLast = {0, 0, 3};
-    auto* editor = new QWidget;
     context->windows.adopt("frmStruct", editor);
     PublishPlotEntry(editor, 2);
     context->plots.PlotKind = StructureRatingPlot;

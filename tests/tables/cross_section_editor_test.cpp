@@ -117,7 +117,7 @@ TEST_F(CrossSectionEditorTest, TheStreamListOffersTheStreamsOfThisSectionAndTake
     QTest::keyClick(streams(), Qt::Key_Tab);
     EXPECT_EQ(streams()->currentText(), "BROOKSIDE-");
     EXPECT_EQ(box(4)->text(), "BROOKSIDE-");
-    EXPECT_EQ(context->tabular.IdentifierTable(4, 3), "BROOKSIDE-");
+    EXPECT_EQ(window->tabularTables().IdentifierTable(4, 3), "BROOKSIDE-");
     EXPECT_EQ(focused(), box(5));
 }
 
@@ -172,7 +172,7 @@ TEST_F(CrossSectionEditorTest, TopWidthMayStayBlankOnRowOneOnly) {
     enterName("A");
     box(6)->setFocus();
     typeRow(6, {"90", "", "", "", ""});
-    EXPECT_EQ(context->tabular.GridRow, 2);
+    EXPECT_EQ(window->tabularTables().GridRow, 2);
     EXPECT_EQ(background(box(9)), UntouchedColour);
     typeRow(6, {"95", "", ""});
     // Discharge and end area left blank are never marked.
@@ -221,7 +221,7 @@ TEST_F(CrossSectionEditorTest, ARatingRecordWithABlankElevationIsDroppedOnlyWhen
     writeWorkFile(lines);
     open();
     enterName("X1");
-    EXPECT_EQ(context->tabular.GridRowsUsed, 1);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 1);
     click(button("cmdFinished"));
     EXPECT_EQ(workFileBytes(),
               crlf({Header, section("X1", "100.", "", "", ""), point({"90.", "0.", "0.", "0.", ""}),
@@ -239,7 +239,7 @@ TEST_F(CrossSectionEditorTest, ANewIdentifierEmptiesBoxesTwoToNineAndLeavesTheFr
         EXPECT_EQ(box(index)->text(), "") << index;
     EXPECT_EQ(streams()->currentText(), "");
     EXPECT_EQ(box(10)->text(), ".002");
-    EXPECT_EQ(context->tabular.TableCount, 3);
+    EXPECT_EQ(window->tabularTables().TableCount, 3);
 }
 
 TEST_F(CrossSectionEditorTest, DeleteAsksItsQuestionAndEmptiesTheStreamToo) {
@@ -253,7 +253,7 @@ TEST_F(CrossSectionEditorTest, DeleteAsksItsQuestionAndEmptiesTheStreamToo) {
     for (int index = 1; index <= 5; ++index)
         EXPECT_EQ(box(index)->text(), "") << index;
     EXPECT_EQ(streams()->currentText(), "");
-    EXPECT_EQ(context->tabular.IdentifierTable(4, 1), "");
+    EXPECT_EQ(window->tabularTables().IdentifierTable(4, 1), "");
     click(button("cmdFinished"));
     EXPECT_EQ(workFileBytes(), crlf({Header, section("X2", "80.", "", "CREEK.", ""),
                                      point({"70.", "0.", "0.", "10.", ""}), ""}));
@@ -269,7 +269,7 @@ TEST_F(CrossSectionEditorTest, ARowIsDeletedAfterItsOwnQuestion) {
     EXPECT_EQ(platform.boxes.back(), (BoxRequest{"Delete Cross Section Rating Row ?", "Stream Cross Section",
                                                  BoxButtons::YesNo, BoxIcon::Question}));
     EXPECT_EQ(gridRow(1), (Texts{"95.", "100.", "40.", "20.", ".002"}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 2);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 2);
 }
 
 TEST_F(CrossSectionEditorTest, DisplayDataHandsOverPlotKindFive) {
@@ -289,7 +289,7 @@ TEST_F(CrossSectionEditorTest, MovingOnPastTheLastBoxScrollsALongTable) {
     for (int i = 0; i < 10; ++i)
         typeRow(
             6, {QString::number(90 + i), QString::number(i), QString::number(i), QString::number(i), ".001"});
-    EXPECT_EQ(context->tabular.GridRow, 11);
+    EXPECT_EQ(window->tabularTables().GridRow, 11);
     EXPECT_EQ(grid()->verticalScrollBar()->value(), 3);
 }
 
@@ -315,6 +315,21 @@ TEST_F(CrossSectionEditorTest, PastedRowsAreCheckedByTheCrossSectionRules) {
     EXPECT_EQ(cellColour(2, 3), RefusedColour);
     EXPECT_EQ(cellColour(2, 4), RefusedColour);
     EXPECT_EQ(cellColour(2, 1), UntouchedColour);
+}
+
+TEST_F(CrossSectionEditorTest, CtrlEnterWritesTheValueTypedInABoxAsAClickOnAcceptDoes) {
+    writeWorkFile(TwoSections);
+    open();
+    chooseAndGoToRows("X2");
+    typeRow(6, {"75", "50", "20", "12"});
+    // The friction slope typed, and the window accepted from the keyboard while the box has the
+    // focus.
+    QTest::keyClicks(box(10), ".004");
+    QTest::keyClick(box(10), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    std::vector<std::string> expected = TwoSections;
+    expected.insert(expected.end() - 1, point({"75.", "50.", "20.", "12.", ".004"}));
+    EXPECT_EQ(workFileBytes(), crlf(expected));
 }
 
 } // namespace

@@ -170,5 +170,20 @@ TEST_F(InputHydrographEditorTest, DeletingAHydrographEmptiesItsFieldsAndLeavesTh
     EXPECT_EQ(workFileBytes(), "");
 }
 
+TEST_F(InputHydrographEditorTest, CtrlEnterWritesTheReachTypedInItsListAsAClickOnAcceptDoes) {
+    writeWorkFile({Header, Quarry, valueRecord({"0.", "4.", "0."}), ""});
+    open();
+    enterName("QUARRY");
+    EXPECT_EQ(focused(), combo(2));
+    combo(2)->setEditText(QString());
+    // A new reach typed, and the window accepted from the keyboard while the list has the focus.
+    QTest::keyClicks(combo(2), "WESTFORK");
+    QTest::keyClick(combo(2), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(),
+              crlf({Header, identifier({"QUARRY", "WESTFORK", "100-YR", "0.", "0.5", "0.35", "2."}),
+                    valueRecord({"0.", "4.", "0."}), ""}));
+}
+
 } // namespace
 } // namespace brooklet::test

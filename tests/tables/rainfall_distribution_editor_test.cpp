@@ -247,7 +247,7 @@ TEST_F(RainfallDistributionEditorTest, DisplayDataHandsTheTableToThePlotWindowAs
     EXPECT_EQ(PlotWindowStandIn::entry, "2");
     EXPECT_TRUE(PlotWindowStandIn::wasModal);
     // The store step ran first: the plot window reads the value typed.
-    EXPECT_EQ(StoredValueTables(context->tabular)[1].Values, (Texts{"0.1", "0.5", "1.", "2"}));
+    EXPECT_EQ(StoredValueTables(window->tabularTables())[1].Values, (Texts{"0.1", "0.5", "1.", "2"}));
 }
 
 TEST_F(RainfallDistributionEditorTest, DisplayDataWithNoTableSaysNoneSelected) {

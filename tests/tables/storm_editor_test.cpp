@@ -460,5 +460,16 @@ TEST_F(StormEditorTest, AnEditedStormIsSavedInTheInputFileColumnForColumn) {
     EXPECT_NE(bytesOf(path).find(section), std::string::npos) << bytesOf(path);
 }
 
+TEST_F(StormEditorTest, CtrlEnterWritesTheValueTypedInABoxAsAClickOnAcceptDoes) {
+    open();
+    typeRow({"100-YR", "NORTHGAGE", "0", "6.4", "Type II", "2.9"}, 3);
+    // A new rainfall typed, and the window accepted from the keyboard while the box has the focus.
+    typeInto(4, "7.1");
+    QTest::keyClick(box(4), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(),
+              crlf({Header, stormLine({"100-YR", "NORTHGAGE", "0.", "7.1", "Type II", "3", "2.9"})}));
+}
+
 } // namespace
 } // namespace brooklet::test

@@ -69,8 +69,8 @@ TEST_F(StructureRatingEditorTest, ShowsEveryControlWithItsCaptionAndInitialState
     EXPECT_EQ(gridRow(0), (Texts{"Elevation", "Discharge", "Storage"}));
     EXPECT_FALSE(control<QPlainTextEdit>(window, "txtHelp")->isVisible());
     EXPECT_EQ(focused(), list());
-    EXPECT_EQ(context->tabular.GridRow, 1);
-    EXPECT_EQ(context->tabular.TableCount, 0);
+    EXPECT_EQ(window->tabularTables().GridRow, 1);
+    EXPECT_EQ(window->tabularTables().TableCount, 0);
 }
 
 TEST_F(StructureRatingEditorTest, ControlsCarryTheNamesAScreenReaderSpeaks) {
@@ -98,7 +98,7 @@ TEST_F(StructureRatingEditorTest, TheListOffersTheSectionsStructuresAndThoseReac
     open();
     EXPECT_EQ(listItems(), (Texts{"DAM", "WEIR", "GATE"}));
     EXPECT_EQ(list()->currentText(), "");
-    EXPECT_EQ(context->tabular.TableCount, 2);
+    EXPECT_EQ(window->tabularTables().TableCount, 2);
     EXPECT_EQ(box(2)->text(), "");
     EXPECT_EQ(gridRow(1), (Texts{"", "", ""}));
 }
@@ -114,8 +114,8 @@ TEST_F(StructureRatingEditorTest, ChoosingAStructureShowsItsStartingElevationAnd
     EXPECT_EQ(gridRow(1), (Texts{"100.", "0.", "0."}));
     EXPECT_EQ(gridRow(3), (Texts{"104.", "200.", "30."}));
     EXPECT_EQ(gridRow(4), (Texts{"", "", ""}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
-    EXPECT_EQ(context->tabular.GridRow, 4);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRow, 4);
     EXPECT_EQ(window->currentEntry(), 1);
     EXPECT_EQ(box(1)->text(), "DAM");
     EXPECT_TRUE(plotButton()->isEnabled());
@@ -139,7 +139,7 @@ TEST_F(StructureRatingEditorTest, AbcAndAbcWithABlankNameTheSameEntry) {
     typeAndPress(2, "5");
     enterName("ABC ");
     EXPECT_EQ(window->currentEntry(), 1);
-    EXPECT_EQ(context->tabular.TableCount, 1);
+    EXPECT_EQ(window->tabularTables().TableCount, 1);
     EXPECT_EQ(box(2)->text(), "5");
     EXPECT_EQ(listItems(), Texts{"abc"});
 }
@@ -153,14 +153,14 @@ TEST_F(StructureRatingEditorTest, AnIdentifierOfMoreThanTenCharactersIsCutOnLeav
     // The cut text is what is compared.
     EXPECT_EQ(window->currentEntry(), 1);
     EXPECT_EQ(box(2)->text(), "7.");
-    EXPECT_EQ(context->tabular.TableCount, 1);
+    EXPECT_EQ(window->tabularTables().TableCount, 1);
 }
 
 TEST_F(StructureRatingEditorTest, ANewStructureIsTypedRowByRowAndAccepted) {
     open();
     enterName("Gate 3");
     EXPECT_EQ(listItems(), Texts{"Gate 3"});
-    EXPECT_EQ(context->tabular.TableCount, 1);
+    EXPECT_EQ(window->tabularTables().TableCount, 1);
     EXPECT_EQ(focused(), box(2));
     typeAndPress(2, "1200", Qt::Key_Return);
     EXPECT_EQ(background(box(2)), UntouchedColour);
@@ -168,7 +168,7 @@ TEST_F(StructureRatingEditorTest, ANewStructureIsTypedRowByRowAndAccepted) {
     EXPECT_EQ(gridRow(1), (Texts{"1200", "0", "0"}));
     // Past the last box the next row comes, with the focus in the key box.
     EXPECT_EQ(focused(), box(3));
-    EXPECT_EQ(context->tabular.GridRow, 2);
+    EXPECT_EQ(window->tabularTables().GridRow, 2);
     EXPECT_EQ(cellColour(2, 0), CurrentColour);
     EXPECT_EQ(cellColour(1, 0), UntouchedColour);
     EXPECT_FALSE(plotButton()->isEnabled());
@@ -191,7 +191,7 @@ TEST_F(StructureRatingEditorTest, RowsGoInAscendingOrderOfElevation) {
     EXPECT_EQ(gridRow(1), (Texts{"100", "0", "0"}));
     EXPECT_EQ(gridRow(2), (Texts{"102", "10", "1"}));
     EXPECT_EQ(gridRow(3), (Texts{"104", "30", "3"}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
 }
 
 TEST_F(StructureRatingEditorTest, TypingTheElevationOfAnExistingRowSelectsThatRow) {
@@ -200,8 +200,8 @@ TEST_F(StructureRatingEditorTest, TypingTheElevationOfAnExistingRowSelectsThatRo
     enterName("DAM");
     QTest::keyClick(box(2), Qt::Key_Tab);
     typeAndPress(3, "102");
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
-    EXPECT_EQ(context->tabular.GridRow, 2);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRow, 2);
     EXPECT_EQ(box(4)->text(), "50.");
     EXPECT_EQ(box(5)->text(), "10.");
     EXPECT_EQ(cellColour(2, 1), CurrentColour);
@@ -241,7 +241,7 @@ TEST_F(StructureRatingEditorTest, ABadElevationIsRedAndKeepsTheFocusAndABlankOne
     typeAndPress(3, "abc");
     EXPECT_EQ(background(box(3)), RefusedColour);
     EXPECT_EQ(focused(), box(3));
-    EXPECT_EQ(context->tabular.GridRow, -999);
+    EXPECT_EQ(window->tabularTables().GridRow, -999);
     box(3)->clear();
     QTest::keyClick(box(3), Qt::Key_Tab);
     // Blank: not checked, the colour stays; the focus stays in the key box while it is blank.
@@ -286,7 +286,7 @@ TEST_F(StructureRatingEditorTest, PickingARowMarksItGreenAndLoadsItIntoTheBoxes)
     open();
     enterName("DAM");
     clickRow(3);
-    EXPECT_EQ(context->tabular.GridRow, 3);
+    EXPECT_EQ(window->tabularTables().GridRow, 3);
     EXPECT_EQ(box(3)->text(), "104.");
     EXPECT_EQ(box(4)->text(), "200.");
     EXPECT_EQ(box(5)->text(), "30.");
@@ -294,7 +294,7 @@ TEST_F(StructureRatingEditorTest, PickingARowMarksItGreenAndLoadsItIntoTheBoxes)
         EXPECT_EQ(cellColour(3, col), CurrentColour);
     clickRow(8);
     // Beyond the rows in use: the first free row.
-    EXPECT_EQ(context->tabular.GridRow, 4);
+    EXPECT_EQ(window->tabularTables().GridRow, 4);
     EXPECT_EQ(cellColour(3, 0), UntouchedColour);
     EXPECT_EQ(cellColour(4, 0), CurrentColour);
     EXPECT_EQ(box(3)->text(), "");
@@ -308,14 +308,14 @@ TEST_F(StructureRatingEditorTest, ARightClickDeletesTheCurrentRowAfterAYes) {
     platform.answers.push_back(BoxAnswer::No);
     clickRow(2, Qt::RightButton);
     EXPECT_EQ(platform.boxes.back(), RowQuestion);
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
     platform.answers.push_back(BoxAnswer::Yes);
     clickRow(2, Qt::RightButton);
     EXPECT_EQ(platform.boxes.size(), 2u);
     EXPECT_EQ(gridRow(2), (Texts{"104.", "200.", "30."}));
     EXPECT_EQ(gridRow(3), (Texts{"", "", ""}));
     EXPECT_EQ(box(3)->text(), "104.");
-    EXPECT_EQ(context->tabular.GridRowsUsed, 2);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 2);
     click(button("cmdFinished"));
     EXPECT_EQ(workFileBytes(),
               crlf({Header, tens({"", "DAM", "100."}), point("100.", "0.", "0."),
@@ -338,12 +338,12 @@ TEST_F(StructureRatingEditorTest, DeletingTheLastRowsLeavesTheGridAtElevenRows) 
     for (int i = 0; i < 12; ++i)
         typeRow(3, {QString::number(100 + i), QString::number(i), QString::number(i)});
     EXPECT_EQ(grid()->rowCount(), 14);
-    EXPECT_EQ(context->tabular.GridRowsUsed, 12);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 12);
     clickRow(12);
     platform.answers.push_back(BoxAnswer::Yes);
     clickRow(12, Qt::RightButton);
     EXPECT_EQ(grid()->rowCount(), 13);
-    EXPECT_EQ(context->tabular.GridRowsUsed, 11);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 11);
     for (int i = 0; i < 3; ++i) {
         clickRow(1);
         platform.answers.push_back(BoxAnswer::Yes);
@@ -364,7 +364,7 @@ TEST_F(StructureRatingEditorTest, DeleteOnNoChangesNothingAndGivesTheFocusToTheL
     EXPECT_EQ(platform.boxes, std::vector<BoxRequest>{DeleteQuestion});
     EXPECT_EQ(focused(), list());
     EXPECT_EQ(listItems(), (Texts{"DAM", "WEIR"}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
 }
 
 TEST_F(StructureRatingEditorTest, DeleteWithABlankListAsksNothing) {
@@ -387,10 +387,10 @@ TEST_F(StructureRatingEditorTest, DeleteLeavesAnEmptySlotAndOnlyTheOtherStructur
     EXPECT_EQ(gridRow(1), (Texts{"", "", ""}));
     EXPECT_FALSE(plotButton()->isEnabled());
     EXPECT_EQ(focused(), list());
-    EXPECT_EQ(context->tabular.TableCount, 2);
+    EXPECT_EQ(window->tabularTables().TableCount, 2);
     // The rows of WEIR moved down over the deleted block but its first row.
-    EXPECT_EQ(context->tabular.TableFirst[2], 2);
-    EXPECT_EQ(context->tabular.ValueCount, 2);
+    EXPECT_EQ(window->tabularTables().TableFirst[2], 2);
+    EXPECT_EQ(window->tabularTables().ValueCount, 2);
     click(button("cmdFinished"));
     EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "WEIR", ""}), point("90.", "0.", "0."), ""}));
 }
@@ -494,7 +494,7 @@ TEST_F(StructureRatingEditorTest, DisplayDataStoresPublishesTheEntryAndOpensTheP
     EXPECT_EQ(PlotWindowStandIn::entry, "2");
     EXPECT_EQ(context->plots.PlotKind, 4);
     // The rows were stored where the plot window reads them.
-    const GridContext& tables = context->tabular;
+    const GridContext& tables = window->tabularTables();
     EXPECT_EQ(tables.TableLast[2] - tables.TableFirst[2], 1);
     EXPECT_EQ(tables.ValueStore(1, tables.TableLast[2]), "91");
     EXPECT_TRUE(platform.boxes.empty());
@@ -538,9 +538,9 @@ TEST_F(StructureRatingEditorTest, RowsCopiedFromASpreadsheetArePastedInOrderAsIf
     EXPECT_EQ(gridRow(1), (Texts{"846", "0", "0"}));
     EXPECT_EQ(gridRow(2), (Texts{"846.5", "13.8", "8.9"}));
     EXPECT_EQ(gridRow(3), (Texts{"847", "39.1", "18.1"}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 3);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 3);
     // As after typing 846.5 and Tab: the row behind it comes into the boxes.
-    EXPECT_EQ(context->tabular.GridRow, 3);
+    EXPECT_EQ(window->tabularTables().GridRow, 3);
     EXPECT_EQ(box(3)->text(), "847");
     EXPECT_EQ(focused(), box(3));
     EXPECT_TRUE(plotButton()->isEnabled());
@@ -572,7 +572,7 @@ TEST_F(StructureRatingEditorTest, APastedValueThatDoesNotRiseTurnsItsCellRedAndS
     EXPECT_EQ(cellColour(2, 2), UntouchedColour);
     EXPECT_EQ(cellColour(1, 1), UntouchedColour);
     // Nothing else in the section changes.
-    EXPECT_EQ(context->tabular.TableCount, 1);
+    EXPECT_EQ(window->tabularTables().TableCount, 1);
     EXPECT_EQ(box(2)->text(), "");
 }
 
@@ -583,7 +583,7 @@ TEST_F(StructureRatingEditorTest, ARefusedKeyEndsThePasteAndKeepsTheFocus) {
     grid()->setFocus();
     QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(gridRow(1), (Texts{"100", "1", "1"}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 1);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 1);
     EXPECT_EQ(box(3)->text(), "abc");
     EXPECT_EQ(background(box(3)), RefusedColour);
     EXPECT_EQ(focused(), box(3));
@@ -599,7 +599,7 @@ TEST_F(StructureRatingEditorTest, APastedRowWithTheElevationOfARowReplacesItsVal
     EXPECT_EQ(gridRow(2), (Texts{"102", "60", "12"}));
     EXPECT_EQ(gridRow(3), (Texts{"103", "100", "20"}));
     EXPECT_EQ(gridRow(4), (Texts{"104.", "200.", "30."}));
-    EXPECT_EQ(context->tabular.GridRowsUsed, 4);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 4);
 }
 
 TEST_F(StructureRatingEditorTest, ASingleValueIsPastedIntoTheBoxAsText) {
@@ -608,7 +608,7 @@ TEST_F(StructureRatingEditorTest, ASingleValueIsPastedIntoTheBoxAsText) {
     QTest::keyClick(box(2), Qt::Key_Tab);
     platform.setClipboardText("846.5");
     QTest::keyClick(box(3), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(context->tabular.GridRowsUsed, 0);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 0);
     EXPECT_EQ(box(3)->text().toStdString(), "846.5");
 }
 
@@ -617,7 +617,7 @@ TEST_F(StructureRatingEditorTest, PastingWithNoStructureChosenPlacesNothing) {
     platform.setClipboardText("100\t1\t1\r\n");
     grid()->setFocus();
     QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(context->tabular.GridRowsUsed, 0);
+    EXPECT_EQ(window->tabularTables().GridRowsUsed, 0);
     EXPECT_EQ(background(box(3)), RefusedColour);
 }
 
@@ -637,7 +637,7 @@ TEST_F(StructureRatingEditorTest, CopyPutsTheCurrentRowOrTheRowsPickedWithShiftO
     QTest::mouseClick(grid()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
                       grid()->visualRect(grid()->model()->index(3, 0)).center());
     // The current row stays.
-    EXPECT_EQ(context->tabular.GridRow, 1);
+    EXPECT_EQ(window->tabularTables().GridRow, 1);
     grid()->setFocus();
     QTest::keyClick(grid(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(platform.clipboardText(), "100.\t0.\t0.\r\n102.\t50.\t10.\r\n104.\t200.\t30.\r\n");
@@ -646,6 +646,29 @@ TEST_F(StructureRatingEditorTest, CopyPutsTheCurrentRowOrTheRowsPickedWithShiftO
     grid()->setFocus();
     QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(gridRow(3), (Texts{"104.", "200.", "30."}));
+}
+
+TEST_F(StructureRatingEditorTest, CtrlEnterWritesTheValueTypedInABoxAsAClickOnAcceptDoes) {
+    open();
+    enterName("Gate 3");
+    typeAndPress(2, "1200", Qt::Key_Return);
+    typeRow(3, {"1200", "0", "0"});
+    typeRow(3, {"1201.5", "12"});
+    // The storage typed, and the window accepted from the keyboard while the box has the focus.
+    QTest::keyClicks(box(5), "3.25");
+    QTest::keyClick(box(5), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "Gate 3", "1200."}), point("1200.", "0.", "0."),
+                                     point("1201.5", "12.", "3.25"), ""}));
+}
+
+TEST_F(StructureRatingEditorTest, CtrlEnterTakesANameTypedButNotLeft) {
+    open();
+    list()->setFocus();
+    QTest::keyClicks(list(), "NEW");
+    QTest::keyClick(list(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf({Header, tens({"", "NEW", ""}), ""}));
 }
 
 } // namespace

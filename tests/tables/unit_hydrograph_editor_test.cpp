@@ -74,7 +74,7 @@ TEST_F(UnitHydrographEditorTest, DeleteOnNoLeavesTheGridAsItWasWithTheValuesInTh
     ASSERT_EQ(platform.boxes.size(), 1u);
     EXPECT_EQ(platform.boxes.back(), DeleteQuestion);
     EXPECT_EQ(gridRow(0), (Texts{"0", "1", "0.3", "", ""}));
-    EXPECT_EQ(StoredValueTables(context->tabular)[0].Values, (Texts{"0", "1", "0.3"}));
+    EXPECT_EQ(StoredValueTables(window->tabularTables())[0].Values, (Texts{"0", "1", "0.3"}));
     platform.answers.push_back(BoxAnswer::Yes);
     click(button("cmdDelAll"));
     EXPECT_EQ(gridRow(0), (Texts{"0", "", "", "", ""}));
@@ -118,7 +118,7 @@ TEST_F(UnitHydrographEditorTest, DisplayDataHandsTheTableToThePlotAsKindOneOrSay
     click(plotButton());
     EXPECT_EQ(PlotWindowStandIn::kind, 1);
     EXPECT_EQ(PlotWindowStandIn::entry, "1");
-    EXPECT_EQ(StoredValueTables(context->tabular)[0].Values, (Texts{"0", "1", "0.5"}));
+    EXPECT_EQ(StoredValueTables(window->tabularTables())[0].Values, (Texts{"0", "1", "0.5"}));
 }
 
 } // namespace
