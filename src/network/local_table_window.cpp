@@ -118,8 +118,14 @@ void LocalTableWindow::finish() {
     // A name typed but not yet left counts as left.
     if (cmbInp(1)->hasFocus())
         leaveList();
-    // Nothing to tell on failure: the file stays as it was, and the window closes all the same.
-    writeLines(filePath(), fileLines());
+    const WriteResult written = writeLines(filePath(), fileLines());
+    if (!written.ok) {
+        // The file stays as it was, and so does the window, so nothing typed is lost.
+        context.platform.showBox({"The file " + filePath() + " could not be written (" + written.error +
+                                      "). The file is as it was before; the window stays open.",
+                                  DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation});
+        return;
+    }
     close();
 }
 
