@@ -11,6 +11,10 @@
 //
 // From the keyboard, Escape is "No Changes" and Ctrl+Enter "Accept Changes". Closing the window
 // by its close box after the user changed something asks whether to keep the changes.
+//
+// A window opened from this one to work on its data (a calculator of the sub-area window, a
+// window on an alternate) is its child: before this window writes or closes, the child closes,
+// asked first whether to keep its changes, so what it holds never lands anywhere else.
 #include <QPointer>
 #include <QWidget>
 
