@@ -289,6 +289,7 @@ TEST_F(ReachAlternateTest, AcceptGivesTheReachesBackToTheAlternateAndRefreshesIt
 }
 
 TEST_F(ReachAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesNothing) {
+    const std::string before = workFileBytes();
     openOnAlternate(1, 1);
     newReach("R8");
     delete alternateWindow_.data();
@@ -301,6 +302,7 @@ TEST_F(ReachAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesNot
                     "was entered here cannot be written. The window closes without writing it.",
                     "Stream Reach", BoxButtons::Ok, BoxIcon::Exclamation}));
     EXPECT_EQ(context->watershed.AlternateReachCount[1], 1);
+    EXPECT_EQ(workFileBytes(), before);
     EXPECT_FALSE(session().DataChanged);
 }
 

@@ -415,6 +415,7 @@ TEST_F(SubAreaAlternateTest, AcceptGivesTheRowsBackToTheAlternateAndRefreshesIts
 }
 
 TEST_F(SubAreaAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesNothing) {
+    const std::string before = workFileBytes();
     openOnAlternate(2, 1);
     enterList(1, "B2");
     delete alternateWindow_.data();
@@ -428,6 +429,7 @@ TEST_F(SubAreaAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesN
                     "Sub-Area", BoxButtons::Ok, BoxIcon::Exclamation}));
     EXPECT_EQ(tables().AlternateSubAreaCount[2], 1);
     EXPECT_EQ(tables().AlternateSubAreas(1, 2, 1), "B1");
+    EXPECT_EQ(workFileBytes(), before);
     EXPECT_FALSE(session().DataChanged);
 }
 

@@ -509,6 +509,7 @@ TEST_F(AlternateChildrenTest, DeletingAnEntryFirstAsksTheSubAreaWindowToClose) {
 
 TEST_F(AlternateChildrenTest, TheReachWindowClosesWithTheAlternateWindowAndYesKeepsItsEntry) {
     writeWorkFile(TwoAlternates);
+    writeBytes(workFile(ReachSection), crlf(sectionOf("STREAM REACH:")));
     open();
     choose("DRY");
     clickList(2, -1);
@@ -528,6 +529,8 @@ TEST_F(AlternateChildrenTest, TheReachWindowClosesWithTheAlternateWindowAndYesKe
     Lines expected = TwoAlternates;
     expected.insert(expected.begin() + 8, {Reaches, tens({"", "R7", "", "", "", "", ""}) + "      "});
     EXPECT_EQ(workFileBytes(), crlf(expected));
+    // The reach of an alternate goes to the alternate section only.
+    EXPECT_EQ(bytesOf(workFile(ReachSection)), crlf(sectionOf("STREAM REACH:")));
     EXPECT_TRUE(session().DataChanged);
 }
 
