@@ -184,6 +184,16 @@ std::string NumberText(double value) {
     return text;
 }
 
+std::string ExactNumberText(double value) {
+    char text[40];
+    for (int digits = 15; digits <= 17; ++digits) {
+        std::snprintf(text, sizeof text, "%.*g", digits, value == 0.0 ? 0.0 : value);
+        if (std::strtod(text, nullptr) == value)
+            break;
+    }
+    return text;
+}
+
 std::string NumberText(float value) {
     char text[40];
     for (int digits = 6; digits <= 9; ++digits) {

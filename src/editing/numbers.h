@@ -38,5 +38,8 @@ double leadingNumber(const std::string& text);
 // single in as few digits as give the value back.
 std::string NumberText(double value);
 std::string NumberText(float value);
+// A double in as few digits as give the value back, up to 17: the sum 0.1 + 0.2 is
+// "0.30000000000000004", where NumberText gives "0.3".
+std::string ExactNumberText(double value);
 
 } // namespace brooklet

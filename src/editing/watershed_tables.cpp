@@ -3,6 +3,7 @@
 #include "editing/numbers.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace brooklet {
 namespace {
@@ -138,6 +139,7 @@ void resetSubAreaTables(WatershedTables& tables) {
     tables.LandUseStore.redim(LandUseFields, 1);
     tables.LandUseFirst.assign(2, 0);
     tables.LandUseLast.assign(2, 0);
+    tables.SubAreaRowIds.assign(2, 0);
     tables.SubAreaCount = 0;
 }
 
@@ -148,8 +150,11 @@ int addSubAreaRow(WatershedTables& tables) {
         tables.LandUseFirst.resize(size_t(row) + 1, 0);
         tables.LandUseLast.resize(size_t(row) + 1, 0);
     }
+    if (tables.SubAreaRowIds.size() < size_t(row) + 1)
+        tables.SubAreaRowIds.resize(size_t(row) + 1, 0);
     tables.LandUseFirst[size_t(row)] = 0;
     tables.LandUseLast[size_t(row)] = 0;
+    tables.SubAreaRowIds[size_t(row)] = tables.NextSubAreaRowId++;
     return row;
 }
 
@@ -176,12 +181,36 @@ void deleteSubAreaRow(WatershedTables& tables, int row) {
     // Each later sub-area keeps its own land use records: their positions move up with it.
     tables.LandUseFirst.erase(tables.LandUseFirst.begin() + row);
     tables.LandUseLast.erase(tables.LandUseLast.begin() + row);
+    if (size_t(row) < tables.SubAreaRowIds.size())
+        tables.SubAreaRowIds.erase(tables.SubAreaRowIds.begin() + row);
     --tables.SubAreaCount;
     if (tables.SubAreaCount > 0) {
         tables.SubAreaTable.resizeRows(tables.SubAreaCount);
         tables.LandUseFirst.resize(size_t(tables.SubAreaCount) + 1);
         tables.LandUseLast.resize(size_t(tables.SubAreaCount) + 1);
+        tables.SubAreaRowIds.resize(size_t(tables.SubAreaCount) + 1);
     }
+}
+
+int subAreaRowOf(const WatershedTables& tables, int rowId) {
+    for (int row = 1; row <= tables.SubAreaCount && size_t(row) < tables.SubAreaRowIds.size(); ++row)
+        if (rowId != 0 && tables.SubAreaRowIds[size_t(row)] == rowId)
+            return row;
+    return 0;
+}
+
+std::vector<int> subAreaRowsOf(const WatershedTables& tables, const std::vector<int>& rowIds) {
+    std::unordered_map<int, int> rowOfId;
+    rowOfId.reserve(size_t(tables.SubAreaCount));
+    for (int row = 1; row <= tables.SubAreaCount && size_t(row) < tables.SubAreaRowIds.size(); ++row)
+        rowOfId[tables.SubAreaRowIds[size_t(row)]] = row;
+    std::vector<int> rows(rowIds.size(), 0);
+    for (size_t k = 1; k < rowIds.size(); ++k) {
+        const auto found = rowOfId.find(rowIds[k]);
+        if (rowIds[k] != 0 && found != rowOfId.end())
+            rows[k] = found->second;
+    }
+    return rows;
 }
 
 bool loadSubAreasFromAlternate(WatershedTables& tables, int CurrentAlternate) {

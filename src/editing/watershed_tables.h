@@ -68,6 +68,11 @@ struct WatershedTables {
     // Per sub-area row (index from 1): first and last position of its land use records; 0 for none.
     std::vector<int> LandUseFirst{0, 0};
     std::vector<int> LandUseLast{0, 0};
+    // Per sub-area row (index from 1): a number that no other row of the program's run has had,
+    // so a calculator finds the rows it was opened on again after rows were deleted or the
+    // tables were loaded anew.
+    std::vector<int> SubAreaRowIds{0, 0};
+    int NextSubAreaRowId = 1;
     // Name, soil group and area of each land use record.
     TextTable LandUseStore{LandUseFields, 1};
     // Positions in use; shared by LandUseStore and AlternateLandUse.
@@ -102,9 +107,12 @@ int addSubAreaRow(WatershedTables& tables);
 // A land use record for the row: the count grows, the store with it. Gives its position.
 int addLandUseRow(WatershedTables& tables, int row, const std::string& name, const std::string& soil,
                   const std::string& area);
-// Removes a row: later rows move down, all 25 fields; the land use positions stay with the row
-// numbers, so each later sub-area takes over the pair of the row whose number it now has.
+// Removes a row: later rows move down with their fields, land use positions and identities.
 void deleteSubAreaRow(WatershedTables& tables, int row);
+// For each row identity (index from 1), the row that has it now; 0 for a row that is gone.
+std::vector<int> subAreaRowsOf(const WatershedTables& tables, const std::vector<int>& rowIds);
+// The row that has the identity now; 0 when it is gone.
+int subAreaRowOf(const WatershedTables& tables, int rowId);
 
 // Alternate mode of the sub-area window: the tables are reset and take the rows of the
 // alternate, with their land use records at the same positions. With CurrentAlternate 0

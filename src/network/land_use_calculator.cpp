@@ -119,6 +119,7 @@ std::vector<std::string> LoadLandUseWork(LandUseWork& work, const WatershedTable
     work.LandUseIds.assign(size_t(count) + 1, std::string());
     work.WorkFirst.assign(size_t(count) + 1, 0);
     work.WorkLast.assign(size_t(count) + 1, 0);
+    work.RowIds.assign(size_t(count) + 1, 0);
     work.WorkStoreCount = tables.LandUseStoreCount;
     if (work.WorkStoreCount > 0) {
         work.WorkStore = tables.LandUseStore;
@@ -132,6 +133,8 @@ std::vector<std::string> LoadLandUseWork(LandUseWork& work, const WatershedTable
             work.WorkFirst[size_t(row)] = tables.LandUseFirst[size_t(row)];
             work.WorkLast[size_t(row)] = tables.LandUseLast[size_t(row)];
         }
+        if (size_t(row) < tables.SubAreaRowIds.size())
+            work.RowIds[size_t(row)] = tables.SubAreaRowIds[size_t(row)];
     }
     return choices;
 }
@@ -321,11 +324,15 @@ void DeleteSubAreaLandUse(LandUseWork& work, GridControl& grid, int row) {
 bool ReturnLandUseWork(const LandUseWork& work, WatershedTables& tables) {
     if (tables.SubAreaCount <= 0 || work.WorkStoreCount <= 0)
         return false;
-    tables.LandUseFirst.assign(size_t(tables.SubAreaCount) + 1, 0);
-    tables.LandUseLast.assign(size_t(tables.SubAreaCount) + 1, 0);
-    for (int row = 1; row <= tables.SubAreaCount && size_t(row) < work.WorkFirst.size(); ++row) {
-        tables.LandUseFirst[size_t(row)] = work.WorkFirst[size_t(row)];
-        tables.LandUseLast[size_t(row)] = work.WorkLast[size_t(row)];
+    tables.LandUseFirst.resize(size_t(tables.SubAreaCount) + 1, 0);
+    tables.LandUseLast.resize(size_t(tables.SubAreaCount) + 1, 0);
+    const std::vector<int> rows = subAreaRowsOf(tables, work.RowIds);
+    for (size_t workRow = 1; workRow < rows.size() && workRow < work.WorkFirst.size(); ++workRow) {
+        const size_t row = size_t(rows[workRow]);
+        if (row == 0)
+            continue;
+        tables.LandUseFirst[row] = work.WorkFirst[workRow];
+        tables.LandUseLast[row] = work.WorkLast[workRow];
     }
     tables.LandUseStoreCount = work.WorkStoreCount;
     tables.LandUseStore = work.WorkStore;

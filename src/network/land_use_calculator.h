@@ -35,6 +35,8 @@ struct LandUseWork {
     std::vector<std::string> LandUseIds{std::string()};
     std::vector<int> WorkFirst{0};
     std::vector<int> WorkLast{0};
+    // Per sub-area: the identity of its row in the sub-area tables when the copy was made.
+    std::vector<int> RowIds{0};
     // Name, soil group and area a row, rows 1 to WorkStoreCount.
     TextTable WorkStore{3, 1};
     int WorkStoreCount = 0;
@@ -90,7 +92,9 @@ void DeleteCellValue(LandUseWork& work, GridControl& grid);
 // cleared.
 void DeleteSubAreaLandUse(LandUseWork& work, GridControl& grid, int row);
 // "Return to Sub-Area": when any working row exists, the sub-area tables take the working
-// tables. True when they did, and the work file is to be rewritten.
+// tables, each sub-area's positions going to the row that has its identity now (a sub-area
+// deleted since takes nothing, one added since keeps its own). True when they did, and the work
+// file is to be rewritten.
 bool ReturnLandUseWork(const LandUseWork& work, WatershedTables& tables);
 
 } // namespace brooklet

@@ -30,7 +30,8 @@ constexpr int WeightedBox = 28;
 } // namespace
 
 frmLandUse::frmLandUse(AppContext& context, QWidget* parent)
-    : NetworkWindow(context, {"frmLandUse", "Sub-Area Land Use", 17, "AR", SubAreaSection}, parent),
+    : NetworkWindow(context, {"frmLandUse", "Sub-Area Land Use", 17, "AR", SubAreaSection},
+                    OpenedFrom::SubAreaWindow, parent),
       tables(context.watershed) {
     buildControls();
     Form_Load();
@@ -172,7 +173,7 @@ void frmLandUse::clearGrid() {
 
 void frmLandUse::storeGrid() {
     if (work.WorkRow > 0)
-        StoreLandUseGrid(work, *grid, tables, context.CurrentAlternate);
+        StoreLandUseGrid(work, *grid, tables, workingAlternate());
 }
 
 bool frmLandUse::leaveList(int index) {
@@ -258,8 +259,15 @@ std::vector<std::string> frmLandUse::sectionRecords() {
 }
 
 void frmLandUse::acceptChanges() {
+    if (ownerClosed()) {
+        closeForClosedOwner();
+        return;
+    }
     work.WorkRow = short(Selected);
     storeGrid();
+    if (Selected > 0 && size_t(Selected) < work.RowIds.size() &&
+        subAreaRowOf(tables, work.RowIds[size_t(Selected)]) == 0)
+        tellSubAreaDeleted(work.LandUseIds[size_t(Selected)]);
     if (ReturnLandUseWork(work, tables) && !alternateMode())
         EntryWindow::acceptChanges();
     else

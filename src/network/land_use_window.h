@@ -5,7 +5,9 @@
 // cells and sees the accumulated area and the area-weighted curve number. "Return to
 // Sub-Area" hands the entered cells back as the sub-area's land use records and rewrites work
 // file 11 (in alternate mode the sub-area window keeps them until it accepts). No area or
-// curve number goes back into the sub-area record.
+// curve number goes back into the sub-area record. It works for the sub-area window it was
+// opened from and closes with it: each sub-area's records go back to that sub-area, wherever it
+// stands by then, and a sub-area deleted in the meantime takes nothing.
 #include "network/land_use_calculator.h"
 #include "network/network_window.h"
 

@@ -122,7 +122,7 @@ void LocalTableWindow::finish() {
     const WriteResult written = writeLines(filePath(), fileLines(), LocalFileWriting(session));
     if (!written.ok) {
         context.platform.showBox({"The file " + filePath() + " could not be written (" + written.error +
-                                      "). It is as it was before; the window stays open.",
+                                      "). The file is as it was before; the window stays open.",
                                   DefaultBoxTitle, BoxButtons::Ok, BoxIcon::Exclamation});
         return;
     }

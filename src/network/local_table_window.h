@@ -23,8 +23,9 @@ public:
     // cmdDelCur: after a Yes to the question, the row selected is emptied and its name leaves
     // the list; the list takes the focus in any case.
     void deleteCurrent();
-    // cmdFinished: the file is written from the table, then the window closes, also when the
-    // file could not be written.
+    // cmdFinished: the file is written from the table, then the window closes. A file that
+    // cannot be written stays as it was, a box says so, and the window stays open with what
+    // was typed.
     void finish();
 
     const LocalTable& table() const { return Table; }

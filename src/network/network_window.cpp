@@ -40,11 +40,56 @@ void FillAlternateChoices(AppContext& context, int Kind) {
     fillAlternateEntries(context.watershed, context.CurrentAlternate, Kind, items);
 }
 
-NetworkWindow::NetworkWindow(AppContext& context, EntryDesign design, QWidget* parent)
-    : EntryWindow(context, std::move(design), parent), WorkingAlternate(context.CurrentAlternate) {}
+namespace {
+
+// The window a new network window works for: the sub-area window for a calculator, the
+// alternate window for a window opened on an alternate.
+QWidget* ownerOf(AppContext& context, NetworkWindow::OpenedFrom from) {
+    if (from == NetworkWindow::OpenedFrom::SubAreaWindow)
+        return context.windows.loaded("frmSubArea");
+    return context.CurrentAlternate > 0 ? context.windows.loaded("frmAlternate") : nullptr;
+}
+
+int alternateOf(AppContext& context, NetworkWindow::OpenedFrom from, QWidget* owner) {
+    if (from == NetworkWindow::OpenedFrom::SubAreaWindow)
+        if (auto* subAreas = qobject_cast<NetworkWindow*>(owner))
+            return subAreas->workingAlternate();
+    return context.CurrentAlternate;
+}
+
+} // namespace
+
+NetworkWindow::NetworkWindow(AppContext& context, EntryDesign design, OpenedFrom from, QWidget* parent)
+    : EntryWindow(context, std::move(design), parent), Owner(ownerOf(context, from)),
+      hadOwner_(!Owner.isNull()),
+      ownerCaption_(from == OpenedFrom::SubAreaWindow ? "Sub-Area" : "Alternate Analysis"),
+      WorkingAlternate(alternateOf(context, from, Owner)) {
+    // The window closes with the one it works for, which asks about its changes first.
+    if (auto* owner = qobject_cast<EntryWindow*>(Owner.data()))
+        owner->adoptChild(this);
+}
+
+void NetworkWindow::tellSubAreaDeleted(const std::string& name) {
+    context.platform.showBox({"The sub-area " + trim(name) +
+                                  " was deleted in the Sub-Area window after this window opened, so what "
+                                  "was entered for it here is not written.",
+                              toBytes(design().Caption), BoxButtons::Ok, BoxIcon::Exclamation});
+}
 
 bool NetworkWindow::alternateMode() const {
     return WorkingAlternate > 0;
+}
+
+bool NetworkWindow::ownerClosed() const {
+    return hadOwner_ && !Owner;
+}
+
+void NetworkWindow::closeForClosedOwner() {
+    context.platform.showBox({"The " + toBytes(ownerCaption_) +
+                                  " window that this window was opened from has closed, so what was "
+                                  "entered here cannot be written. The window closes without writing it.",
+                              toBytes(design().Caption), BoxButtons::Ok, BoxIcon::Exclamation});
+    close();
 }
 
 QComboBox* NetworkWindow::addList(int index, const QString& accessibleName) {

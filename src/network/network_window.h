@@ -10,6 +10,8 @@
 #include "editing/list_control.h"
 #include "options/entry_window.h"
 
+#include <QPointer>
+
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -37,11 +39,27 @@ public:
     bool alternateMode() const;
     // The alternate the window was opened on, 0 for the base data. It is taken once, when the
     // window opens, so choosing another alternate later never turns a window's Accept towards it.
+    // A calculator takes the alternate of the sub-area window it was opened from.
     int workingAlternate() const { return WorkingAlternate; }
     int rowSelected() const { return Selected; }
 
+    // What the window is opened from, and so works for: the section list or the alternate
+    // window (the sub-area and reach windows), or the sub-area window (its calculators).
+    enum class OpenedFrom { SectionOrAlternate, SubAreaWindow };
+
 protected:
-    NetworkWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
+    NetworkWindow(AppContext& context, EntryDesign design, OpenedFrom from, QWidget* parent = nullptr);
+
+    // The window it was opened from has closed since (the alternate window for a window on an
+    // alternate, the sub-area window for a calculator): what this window holds has nowhere to
+    // go.
+    bool ownerClosed() const;
+    // Says that what was entered here cannot be written since the window it was opened from
+    // has closed, then closes as "No Changes" does.
+    void closeForClosedOwner();
+    // Says that what a calculator holds for the sub-area Name is not written, since the
+    // sub-area window deleted that sub-area after the calculator opened.
+    void tellSubAreaDeleted(const std::string& name);
 
     // An editable list cmbInp(Index) and its hidden shadow box txtInp(Index).
     QComboBox* addList(int index, const QString& accessibleName);
@@ -95,6 +113,10 @@ protected:
     short Previous = -999;
 
 private:
+    // The window this one works for; null when opened from the section list.
+    const QPointer<QWidget> Owner;
+    const bool hadOwner_;
+    const QString ownerCaption_;
     const int WorkingAlternate;
     int listIndexOf(QObject* control) const;
     // Tab or Enter in list Index: the list is left, then the focus moves on.

@@ -55,7 +55,8 @@ bool showsField(int index) {
 } // namespace
 
 frmReaches::frmReaches(AppContext& context, QWidget* parent)
-    : NetworkWindow(context, {"frmReaches", "Stream Reach", 12, "RC", ReachSection}, parent) {
+    : NetworkWindow(context, {"frmReaches", "Stream Reach", 12, "RC", ReachSection},
+                    OpenedFrom::SectionOrAlternate, parent) {
     buildControls();
     Form_Load();
     cmbInp(1)->setFocus(Qt::OtherFocusReason);
@@ -310,6 +311,10 @@ std::vector<std::string> frmReaches::sectionRecords() {
 }
 
 void frmReaches::acceptChanges() {
+    if (alternateMode() && ownerClosed()) {
+        closeForClosedOwner();
+        return;
+    }
     storeBoxes();
     if (!alternateMode()) {
         EntryWindow::acceptChanges();

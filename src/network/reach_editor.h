@@ -8,6 +8,7 @@
 //
 // Opened from the alternate window (CurrentAlternate above 0), the window works on that
 // alternate's reaches in the alternate store and gives them back there on Accept.
+// It belongs to the alternate window and closes with it, asked first about its changes.
 #include "editing/text_table.h"
 #include "network/network_window.h"
 

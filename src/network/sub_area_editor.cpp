@@ -31,7 +31,8 @@ const char* const Labels[] = {
 } // namespace
 
 frmSubArea::frmSubArea(AppContext& context, QWidget* parent)
-    : NetworkWindow(context, {"frmSubArea", "Sub-Area", 8, "AR", SubAreaSection}, parent),
+    : NetworkWindow(context, {"frmSubArea", "Sub-Area", 8, "AR", SubAreaSection},
+                    OpenedFrom::SectionOrAlternate, parent),
       tables(context.watershed) {
     buildControls();
     Form_Load();
@@ -245,11 +246,26 @@ void frmSubArea::addHeldData(std::string& data) const {
     appendTable(data, tables.LandUseStore);
 }
 
+QStringList frmSubArea::editState() const {
+    QStringList state = NetworkWindow::editState();
+    if (alternateMode())
+        for (const std::string& line : SubAreaSectionRecords(tables))
+            state << fromBytes(line);
+    return state;
+}
+
 std::vector<std::string> frmSubArea::sectionRecords() {
     return SubAreaSectionRecords(tables);
 }
 
 void frmSubArea::acceptChanges() {
+    if (alternateMode() && ownerClosed()) {
+        closeForClosedOwner();
+        return;
+    }
+    // The calculators give back what they hold before the rows are written.
+    if (!closeChildren())
+        return;
     storeBoxes();
     if (!alternateMode()) {
         EntryWindow::acceptChanges();

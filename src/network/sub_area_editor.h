@@ -5,10 +5,12 @@
 // shared sub-area tables of the program context, where the land use and time of concentration
 // calculators, opened from here, edit their detail records. A sub-area has either typed values
 // or detail records: a typed area or curve number hides the land use button, a typed time of
-// concentration the Tc button, and existing detail hides the typed field.
+// concentration the Tc button, and existing detail hides the typed field. The calculators close
+// with the window, and give back what they hold before it writes.
 //
 // Opened from the alternate window (CurrentAlternate above 0), the window works on that
 // alternate's sub-areas in the alternate store and gives them back there on Accept.
+// It belongs to the alternate window and closes with it, asked first about its changes.
 #include "network/network_window.h"
 
 namespace brooklet {
@@ -39,6 +41,9 @@ protected:
     bool checkBox(int index) override;
     int nextBox(int index) const override;
     int optionFocusBox() const override { return 1; }
+    // On an alternate, what the calculators gave back waits in the tables for this window's
+    // Accept, so it counts as a change too.
+    QStringList editState() const override;
 
 private:
     void buildControls();

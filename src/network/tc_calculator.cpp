@@ -1,6 +1,7 @@
 #include "network/tc_calculator.h"
 
 #include "editing/numbers.h"
+#include "editing/watershed_tables.h"
 #include "network/sub_area.h"
 #include "network/time_of_concentration.h"
 #include "session/app_context.h"
@@ -11,6 +12,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace brooklet {
 namespace {
@@ -27,7 +30,8 @@ constexpr int TimeColumn = 6;
 } // namespace
 
 frmTc::frmTc(AppContext& context, QWidget* parent)
-    : NetworkWindow(context, {"frmTc", "Time of Concentration", 20, "AR", SubAreaSection}, parent),
+    : NetworkWindow(context, {"frmTc", "Time of Concentration", 20, "AR", SubAreaSection},
+                    OpenedFrom::SubAreaWindow, parent),
       tables(context.watershed) {
     buildControls();
     Form_Load();
@@ -126,6 +130,9 @@ void frmTc::setDefaults() {
 
 void frmTc::afterLoad() {
     QStringList names{QString()};
+    rowIds_.assign(size_t(std::max(tables.SubAreaCount, 0)) + 1, 0);
+    for (int row = 1; row <= tables.SubAreaCount && size_t(row) < tables.SubAreaRowIds.size(); ++row)
+        rowIds_[size_t(row)] = tables.SubAreaRowIds[size_t(row)];
     if (tables.SubAreaCount > 0) {
         TcTable = BuildTcTable(tables);
         for (int row = 1; row <= tables.SubAreaCount; ++row)
@@ -154,7 +161,7 @@ void frmTc::showRow(int row) {
         setBoxText(index, TcTable(index, row));
         setBackground(txtInp(index), UntouchedColour);
     }
-    if (const auto rainfall = RainfallOfGage(tables, tables.SubAreaTable(3, row)))
+    if (const auto rainfall = RainfallOfGage(tables, tables.SubAreaTable(3, subAreaRow(row))))
         setBoxText(RainfallBox, *rainfall);
     showRainfall();
     pointSurfaceList(SheetSurfaceBox, SheetSurfaceLetters);
@@ -196,9 +203,13 @@ void frmTc::compute(int index) {
             setBoxText(box, boxes[size_t(box)]);
 }
 
+int frmTc::subAreaRow(int row) const {
+    return row >= 1 && size_t(row) < rowIds_.size() ? subAreaRowOf(tables, rowIds_[size_t(row)]) : 0;
+}
+
 int frmTc::findRow(const std::string& name) const {
     const std::string wanted = trim(name);
-    for (int row = tables.SubAreaCount; row >= 1; --row)
+    for (int row = int(rowIds_.size()) - 1; row >= 1; --row)
         if (trim(TcTable(1, row)) == wanted)
             return row;
     return 0;
@@ -293,8 +304,14 @@ std::vector<std::string> frmTc::sectionRecords() {
 }
 
 void frmTc::acceptChanges() {
+    if (ownerClosed()) {
+        closeForClosedOwner();
+        return;
+    }
     storeBoxes();
-    ReturnTcTable(TcTable, tables);
+    if (Selected > 0 && subAreaRow(Selected) == 0)
+        tellSubAreaDeleted(TcTable(1, Selected));
+    ReturnTcTable(TcTable, rowIds_, tables);
     if (alternateMode())
         close();
     else

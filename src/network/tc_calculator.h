@@ -4,6 +4,9 @@
 // and one channel flow segment) on a working copy of the segments, shows each segment's travel
 // time and their sum, and on "Return to Sub-Area" hands the segments back to the sub-area table
 // and rewrites work file 11 (in alternate mode the sub-area window keeps them until it accepts).
+// It works for the sub-area window it was opened from and closes with it: each row goes back
+// to the sub-area it was copied from, wherever that stands by then, and a sub-area deleted in
+// the meantime takes nothing.
 // No time of concentration goes back into the sub-area record: the model computes it from the
 // segments.
 #include "editing/text_table.h"
@@ -49,8 +52,14 @@ private:
     // The last row whose trimmed identifier is Name, case counting; 0 for none.
     int findRow(const std::string& name) const;
 
+    // The sub-area row that row Row of the working copy was made from, where it stands now; 0
+    // when the sub-area window has deleted it since.
+    int subAreaRow(int row) const;
+
     WatershedTables& tables;
     TextTable TcTable;
+    // The identities of the sub-area rows the working copy was made from, index from 1.
+    std::vector<int> rowIds_{0};
 };
 
 } // namespace brooklet

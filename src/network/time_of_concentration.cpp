@@ -120,10 +120,12 @@ void ComputeTcSegment(TcBoxes& boxes, int index) {
         complete = computeChannel(boxes);
     else
         return;
-    // A segment that is not there counts 0.
-    boxes[TotalTimeBox] = complete ? NumberText(value(boxes, SheetTimeBox) + value(boxes, ShallowTimeBox) +
+    // A segment that is not there counts 0. The sum is shown in as many digits as the double
+    // has, not rounded.
+    boxes[TotalTimeBox] = complete
+                              ? ExactNumberText(value(boxes, SheetTimeBox) + value(boxes, ShallowTimeBox) +
                                                 value(boxes, ChannelTimeBox))
-                                   : std::string();
+                              : std::string();
 }
 
 double SheetLengthLimit(bool EnglishUnits) {
@@ -163,13 +165,18 @@ TextTable BuildTcTable(const WatershedTables& tables) {
     return TcTable;
 }
 
-void ReturnTcTable(const TextTable& TcTable, WatershedTables& tables) {
-    for (int row = 1; row <= tables.SubAreaCount && row <= TcTable.rows(); ++row)
+void ReturnTcTable(const TextTable& TcTable, const std::vector<int>& RowIds, WatershedTables& tables) {
+    const std::vector<int> rows = subAreaRowsOf(tables, RowIds);
+    for (int tcRow = 1; tcRow <= TcTable.rows() && size_t(tcRow) < rows.size(); ++tcRow) {
+        const int row = rows[size_t(tcRow)];
+        if (row <= 0)
+            continue;
         for (int field = SheetFirstField; field <= ChannelLastField; ++field) {
-            const std::string& text = TcTable(field, row);
+            const std::string& text = TcTable(field, tcRow);
             tables.SubAreaTable(field, row) =
                 (field == SheetSurfaceBox || field == ShallowSurfaceBox) ? text.substr(0, 1) : text;
         }
+    }
 }
 
 std::optional<std::string> RainfallOfGage(const WatershedTables& tables, const std::string& gage) {

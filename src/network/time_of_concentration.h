@@ -7,11 +7,13 @@
 // 16 to 18 shallow length, slope and surface; 19 to 24 channel length, slope, Manning n, end
 // area, wetted perimeter and velocity; 25 the shallow velocity; 26 to 28 the travel times of
 // the three segments; 29 their sum. Each travel time is rounded to three decimals, a half going
-// to the even digit; the sum is not rounded. The coefficients are those of English units and
-// stay the same in a metric run: nothing is converted.
+// to the even digit; the sum is not rounded, and shows as many digits as give it back. The
+// coefficients are those of English units and stay the same in a metric run: nothing is
+// converted.
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "editing/text_table.h"
 
@@ -73,8 +75,10 @@ std::string SurfaceListText(const std::string& code, const std::string& letters,
 // The working copy of the sub-areas' segments, rows 1 to SubAreaCount, with the surfaces as
 // the lists show them.
 TextTable BuildTcTable(const WatershedTables& tables);
-// The segments go back to the sub-area table, every row; the surfaces by their first character.
-void ReturnTcTable(const TextTable& TcTable, WatershedTables& tables);
+// The segments go back to the sub-area table, the surfaces by their first character. Each row
+// of the working copy goes to the sub-area that had its identity (RowIds, index from 1) when the
+// copy was built, wherever that sub-area stands now; a sub-area deleted since takes nothing.
+void ReturnTcTable(const TextTable& TcTable, const std::vector<int>& RowIds, WatershedTables& tables);
 // The 2-year rainfall of a rain gage as the calculator finds it: the first entry of the
 // rainfall table whose name equals the gage, both trimmed and in upper case, as text; empty
 // when none does; nothing when the table has no entry, and the box keeps its text.

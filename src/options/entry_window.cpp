@@ -98,6 +98,9 @@ void EntryWindow::Form_Load() {
 }
 
 void EntryWindow::acceptChanges() {
+    // What the children hold goes into this window's data first, or the Accept waits.
+    if (!closeChildren())
+        return;
     Accepting = true;
     const std::string& path = session.WorkFilePath[design_.Section];
     const WriteResult written = writeLines(path, sectionRecords());
@@ -116,6 +119,34 @@ void EntryWindow::acceptChanges() {
 
 void EntryWindow::noChanges() {
     close();
+}
+
+bool EntryWindow::closeAsking() {
+    const QPointer<EntryWindow> self(this);
+    const bool asks = stateTaken_ && editState() != shownState_;
+    const BoxAnswer answer = asks ? context.platform.showBox(keepChangesQuestion()) : BoxAnswer::No;
+    if (answer == BoxAnswer::Cancel)
+        return false;
+    if (answer == BoxAnswer::Yes)
+        press(cmdFinished, &EntryWindow::acceptChanges);
+    else
+        close();
+    return !self || !self->isVisible();
+}
+
+void EntryWindow::adoptChild(EntryWindow* child) {
+    children_.emplace_back(child);
+}
+
+bool EntryWindow::closeChildren() {
+    const bool unasked = context.windows.closingSessionWindows();
+    while (!children_.empty()) {
+        const QPointer<EntryWindow> child = children_.front();
+        if (child && child->isVisible() && !(unasked ? child->close() : child->closeAsking()))
+            return false;
+        children_.erase(children_.begin());
+    }
+    return true;
 }
 
 void EntryWindow::showEvent(QShowEvent* event) {
@@ -229,6 +260,11 @@ void EntryWindow::closeEvent(QCloseEvent* event) {
                 this, [this] { press(cmdFinished, &EntryWindow::acceptChanges); }, Qt::QueuedConnection);
             return;
         }
+    }
+    // The windows opened from this one on its data close with it.
+    if (!closeChildren()) {
+        event->ignore();
+        return;
     }
     event->accept();
     // The main window's activation refreshes the X marks and the Run and View menus; it runs

@@ -12,6 +12,11 @@
 // From the keyboard, Escape is "No Changes" and Ctrl+Enter "Accept Changes". Closing the window
 // by its close box after the user changed something asks whether to keep the changes, and so
 // does every command that closes the window to begin another session or to end the program.
+//
+// A window opened from this one to work on its data (a calculator of the sub-area window, a
+// window on an alternate) is its child: before this window writes or closes, the child closes,
+// asked first whether to keep its changes, so what it holds never lands anywhere else.
+#include <QPointer>
 #include <QWidget>
 
 #include <initializer_list>
@@ -58,6 +63,13 @@ public:
     virtual void acceptChanges();
     // "No Changes": closes; nothing is written and DataChanged stays as it was.
     void noChanges();
+    // Closes the window as its close box does: after a change, the question whether to keep
+    // it comes first. False when the window stays open (Cancel, or an Accept that could not
+    // write its work file).
+    bool closeAsking();
+    // Makes a window opened from this one on this one's data its child: the child closes
+    // before this window writes or closes.
+    void adoptChild(EntryWindow* child);
 
     // The user changed something since the window first showed (editState).
     bool holdsTyping() const override;
@@ -106,6 +118,11 @@ protected:
     QPushButton* makeButton(const QString& name, const QString& caption);
     // A control that, given the focus by the keyboard, hands it on to box Index.
     void passFocusOn(QWidget* control, int index);
+
+    // Closes the children as their close boxes do, each asked about its changes; while every
+    // session window closes, they close unasked. False when one of them stays open, and the
+    // step that asked goes no further.
+    bool closeChildren();
 
     // Paints a checked box: its window's accepted colour, or red.
     void paintBox(int index, bool valid);
@@ -157,6 +174,7 @@ private:
     QStringList shownState_;
     std::string shownData_;
     bool stateTaken_ = false;
+    std::vector<QPointer<EntryWindow>> children_;
 };
 
 } // namespace brooklet

@@ -126,6 +126,7 @@ void frmAlternate::setDefaults() {
 }
 
 void frmAlternate::readSection(const std::vector<std::string>& lines) {
+    hadRecords_ = true;
     ReadAlternateSection(lines, tables);
 }
 
@@ -224,7 +225,9 @@ void frmAlternate::askToDeleteEntry(int kind, int row) {
     QListWidget* list = lstDisp(kind);
     QListWidgetItem* item = list->item(row);
     const std::string text = item ? trim(toBytes(item->text())) : std::string();
-    if (current_ == 0 || text.empty()) {
+    // The sub-area and reach windows hold copies of the entries, which their Accept would put
+    // back: they close first, asked about their changes.
+    if (current_ == 0 || text.empty() || !closeChildren()) {
         list->clearSelection();
         return;
     }
@@ -238,7 +241,9 @@ void frmAlternate::askToDeleteEntry(int kind, int row) {
 }
 
 void frmAlternate::deleteCurrent() {
-    if (trim(toBytes(cmbInp1->currentText())).empty()) {
+    // The sub-area and reach windows work on an alternate by its place in the store, which the
+    // deletion changes: they close first, asked about their changes.
+    if (trim(toBytes(cmbInp1->currentText())).empty() || !closeChildren()) {
         cmbInp1->setFocus(Qt::OtherFocusReason);
         return;
     }

@@ -11,6 +11,9 @@
 // entries; the middle button asks to delete the entry; the right button does nothing. From the
 // keyboard, Enter or Space edits the list's current entry, Insert starts a new one, Delete asks
 // to delete the current entry.
+//
+// The sub-area and reach windows opened from here belong to this window: they close with it,
+// and before an alternate or an entry is deleted, each asked about its changes first.
 #include "options/entry_window.h"
 
 class QComboBox;
@@ -41,7 +44,9 @@ protected:
     void readSection(const std::vector<std::string>& lines) override;
     void afterLoad() override;
     std::vector<std::string> sectionRecords() override;
-    bool acceptSetsDataChanged() const override { return wrote_; }
+    // An Accept that writes records sets DataChanged, and so does one that empties a work file
+    // that had them (every alternate deleted): the section then differs from the input file.
+    bool acceptSetsDataChanged() const override { return wrote_ || hadRecords_; }
     bool checkBox(int index) override;
     int nextBox(int index) const override;
     void focusBox(int index) override;
@@ -67,6 +72,8 @@ private:
     int current_ = 0;
     short previous_ = -999;
     bool wrote_ = false;
+    // The work file had records when the window loaded.
+    bool hadRecords_ = false;
     // Set while a key moves the focus on, so that the combo box it leaves is left once.
     bool movingOn_ = false;
 };

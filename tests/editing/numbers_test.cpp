@@ -61,6 +61,15 @@ TEST(LeadingNumber, ReadsTheNumberATextBeginsWith) {
     EXPECT_DOUBLE_EQ(leadingNumber("1,000"), 1.0);
 }
 
+TEST(ExactNumberText, GivesAsManyDigitsAsTheDoubleNeeds) {
+    EXPECT_EQ(ExactNumberText(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
+    EXPECT_EQ(ExactNumberText(0.3), "0.3");
+    EXPECT_EQ(ExactNumberText(1.3), "1.3");
+    EXPECT_EQ(ExactNumberText(-0.0), "0");
+    EXPECT_EQ(ExactNumberText(2.0 / 3.0), "0.6666666666666666");
+}
+
 TEST(Trim, OnlyBlanksAreTrimmed) {
     EXPECT_EQ(trim("  a b  "), "a b");
     EXPECT_EQ(trim("\ta\t"), "\ta\t");

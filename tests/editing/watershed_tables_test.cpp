@@ -80,6 +80,24 @@ TEST(SubAreaTables, DeletingTheOnlyRowLeavesTheTablesTheirSize) {
     EXPECT_EQ(tables.SubAreaTable.rows(), 1);
 }
 
+TEST(SubAreaTables, EveryRowKeepsItsIdentityThroughDeletionsAndNoNewRowTakesAnOldOne) {
+    WatershedTables tables;
+    subArea(tables, "A1", "R1");
+    subArea(tables, "A2", "R2");
+    subArea(tables, "A3", "R3");
+    const std::vector<int> ids = tables.SubAreaRowIds;
+    ASSERT_EQ(ids.size(), 4u);
+    EXPECT_EQ(subAreaRowsOf(tables, ids), (std::vector<int>{0, 1, 2, 3}));
+    deleteSubAreaRow(tables, 1);
+    EXPECT_EQ(subAreaRowsOf(tables, ids), (std::vector<int>{0, 0, 1, 2}));
+    EXPECT_EQ(subAreaRowOf(tables, ids[3]), 2);
+    EXPECT_EQ(subAreaRowOf(tables, ids[1]), 0);
+    // Tables loaded anew hold none of the rows a calculator was opened on.
+    resetSubAreaTables(tables);
+    subArea(tables, "A2", "R2");
+    EXPECT_EQ(subAreaRowsOf(tables, ids), (std::vector<int>{0, 0, 0, 0}));
+}
+
 // An alternate store of two alternates: the first with two sub-areas (one with land use) and a
 // reach, the second with nothing.
 WatershedTables twoAlternates() {

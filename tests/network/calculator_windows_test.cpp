@@ -255,6 +255,142 @@ TEST_F(CalculatorWindowsTest, DeleteTcDetailsAsksThenEmptiesTheSegments) {
     EXPECT_EQ(workFileBytes(), crlf(section));
 }
 
+TEST_F(CalculatorWindowsTest, TheTotalIsTheDoubleSumShownInEveryDigitItHas) {
+    ASSERT_NE(openCalculator(1, "T1"), nullptr);
+    typeIn(16, "1464");
+    typeIn(17, "0.01");
+    pickIn(18, "Paved");
+    typeIn(19, "360");
+    typeIn(24, "1");
+    // 1464 / 2.033 / 3600 = 0.20003 -> 0.2 h; 360 / 1 / 3600 = 0.1 h.
+    EXPECT_EQ(tcBox(27)->text(), "0.2");
+    EXPECT_EQ(tcBox(28)->text(), "0.1");
+    // The double sum 0.2 + 0.1 turned straight to text: not rounded, so not 0.3.
+    EXPECT_EQ(tcBox(29)->text(), "0.30000000000000004");
+}
+
+// ---- Bound to the sub-area window they were opened from ---------------------------------------
+
+const std::string KeepChangesQuestion = "Keep the changes made in this window? Yes accepts them, No discards "
+                                        "them, Cancel returns to the window.";
+
+TEST_F(CalculatorWindowsTest, ACalculatorClosesWithTheSubAreaWindowAndNoDiscardsItsTyping) {
+    ASSERT_NE(openCalculator(1, "A2"), nullptr);
+    const std::string before = workFileBytes();
+    typeIn(12, "75");
+    answer(BoxAnswer::No);
+    cancel();
+    EXPECT_TRUE(calculatorClosed("frmTc"));
+    EXPECT_TRUE(windowClosed());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0], (BoxRequest{KeepChangesQuestion, "Time of Concentration",
+                                             BoxButtons::YesNoCancel, BoxIcon::Question}));
+    EXPECT_EQ(workFileBytes(), before);
+    EXPECT_FALSE(session().DataChanged);
+}
+
+TEST_F(CalculatorWindowsTest, YesReturnsTheCalculatorsTypingBeforeTheSubAreaWindowCloses) {
+    ASSERT_NE(openCalculator(0, "A2"), nullptr);
+    pressCell(gridRowOf("Meadow"), 3);
+    QTest::keyClick(grid(), Qt::Key_Backspace);
+    QTest::keyClicks(grid(), "7");
+    answer(BoxAnswer::Yes);
+    cancel();
+    EXPECT_TRUE(calculatorClosed("frmLandUse"));
+    EXPECT_TRUE(windowClosed());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].title, "Sub-Area Land Use");
+    Lines expected = sectionOf("SUB-AREA:");
+    expected[6] = landArea("Meadow", "B", "0.7");
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+    EXPECT_TRUE(session().DataChanged);
+}
+
+TEST_F(CalculatorWindowsTest, CancelToTheCalculatorsQuestionKeepsBothWindowsOpen) {
+    ASSERT_NE(openCalculator(1, "A2"), nullptr);
+    const std::string before = workFileBytes();
+    typeIn(12, "75");
+    answer(BoxAnswer::Cancel);
+    accept();
+    EXPECT_FALSE(calculatorClosed("frmTc"));
+    EXPECT_FALSE(windowClosed());
+    EXPECT_EQ(tcBox(12)->text(), "75");
+    EXPECT_EQ(workFileBytes(), before);
+}
+
+TEST_F(CalculatorWindowsTest, TcReturnsToItsSubAreaAfterARowAboveWasDeleted) {
+    ASSERT_NE(openCalculator(1, "A2"), nullptr);
+    typeIn(12, "75");
+    // In the sub-area window A1, the row above A2, is deleted.
+    enterList(1, "A1");
+    answer(BoxAnswer::Yes);
+    click(button("cmdDelCur"));
+    click(tcButton("cmdFinished"));
+    EXPECT_TRUE(calculatorClosed("frmTc"));
+    Lines expected = referenceWith(tens({"", "", "SHEET", "75.", "0.02", "0.24", "F"}));
+    expected.erase(expected.begin() + 1);
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+}
+
+TEST_F(CalculatorWindowsTest, LandUseReturnsToItsSubAreasAfterARowAboveWasDeleted) {
+    ASSERT_NE(openCalculator(0, "A2"), nullptr);
+    pressCell(gridRowOf("Meadow"), 3);
+    QTest::keyClick(grid(), Qt::Key_Backspace);
+    QTest::keyClicks(grid(), "7");
+    enterList(1, "A1");
+    answer(BoxAnswer::Yes);
+    click(button("cmdDelCur"));
+    click(tcButton("cmdFinished"));
+    EXPECT_TRUE(calculatorClosed("frmLandUse"));
+    Lines expected = sectionOf("SUB-AREA:");
+    expected[6] = landArea("Meadow", "B", "0.7");
+    expected.erase(expected.begin() + 1);
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+}
+
+TEST_F(CalculatorWindowsTest, ASubAreaDeletedWhileTheCalculatorShowsItIsToldAndTakesNothing) {
+    ASSERT_NE(openCalculator(1, "A2"), nullptr);
+    typeIn(12, "75");
+    enterList(1, "A2");
+    answer(BoxAnswer::Yes);
+    click(button("cmdDelCur"));
+    click(tcButton("cmdFinished"));
+    EXPECT_TRUE(calculatorClosed("frmTc"));
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(platform.boxes[1], (BoxRequest{"The sub-area A2 was deleted in the Sub-Area window after this "
+                                             "window opened, so what was entered for it here is not written.",
+                                             "Time of Concentration", BoxButtons::Ok, BoxIcon::Exclamation}));
+    Lines expected = sectionOf("SUB-AREA:");
+    expected.erase(expected.begin() + 2, expected.begin() + 8);
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+}
+
+TEST_F(CalculatorWindowsTest, ACalculatorOfTheBaseDataWritesItAfterAnAlternateIsChosen) {
+    SetInputUnitWords(session(), session().EnglishUnits);
+    startWithSection(sectionOf("SUB-AREA:"));
+    open();
+    enterList(1, "A2");
+    // frmAlternate, opened from the section list, makes alternate ALT1 the current one.
+    QListWidget* sections = sectionList();
+    QTest::mouseClick(sections->viewport(), Qt::LeftButton, {},
+                      sections->visualItemRect(sections->item(AlternateSection - 1)).center());
+    QWidget* alternates = context->windows.loaded("frmAlternate");
+    ASSERT_NE(alternates, nullptr);
+    auto* alternateName = control<QComboBox>(alternates, "cmbInp(1)");
+    alternateName->setFocus(Qt::MouseFocusReason);
+    QTest::keyClicks(alternateName, "ALT1");
+    QTest::keyClick(alternateName, Qt::Key_Tab);
+    ASSERT_EQ(context->CurrentAlternate, 1);
+    click(element<QPushButton>("cmdSub", 1));
+    calculator = context->windows.loaded("frmTc");
+    ASSERT_NE(calculator, nullptr);
+    EXPECT_FALSE(in<QLabel>("lblStatic", 1)->isVisible());
+    typeIn(12, "75");
+    click(tcButton("cmdFinished"));
+    EXPECT_EQ(workFileBytes(), crlf(referenceWith(tens({"", "", "SHEET", "75.", "0.02", "0.24", "F"}))));
+    EXPECT_EQ(context->watershed.AlternateSubAreaCount[1], 0);
+}
+
 // ---- frmLandUse -------------------------------------------------------------------------------
 
 TEST_F(CalculatorWindowsTest, LandUseShowsItsControlsAndTheRowsCellsWithTheSums) {

@@ -377,27 +377,32 @@ TEST_F(LocalLandUseEditorTest, AcceptLeavesTheDataChangedFlagAlone) {
     EXPECT_TRUE(session().DataChanged);
 }
 
-TEST_F(LocalLandUseEditorTest, AFileThatCannotBeWrittenStaysAsItWasAndSoDoesTheWindowWithWhatWasTyped) {
-    ASSERT_TRUE(createFolder(session().LocalLandUseFile));
+TEST_F(LocalLandUseEditorTest, AFileThatCannotBeWrittenIsToldAndTheWindowKeepsTheTyping) {
+    // A folder standing in the file's place: no write can replace it, not even as root.
+    const std::string file = session().LocalLandUseFile;
+    ASSERT_TRUE(createFolder(file));
     open();
-    enterName("Lot");
+    enterName("Lawn");
     typeAndPress(2, "70");
     accept();
     EXPECT_FALSE(windowClosed());
-    EXPECT_TRUE(folderExists(session().LocalLandUseFile));
+    EXPECT_TRUE(folderExists(file));
     ASSERT_EQ(platform.boxes.size(), 1u);
-    EXPECT_EQ(platform.boxes[0],
-              (BoxRequest{"The file " + session().LocalLandUseFile +
-                              " could not be written (Is a directory). It is as it was before; "
-                              "the window stays open.",
-                          "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    const BoxRequest& told = platform.boxes[0];
+    EXPECT_EQ(told.text.rfind("The file " + file + " could not be written (", 0), 0u) << told.text;
+    const std::string ending = "). The file is as it was before; the window stays open.";
+    ASSERT_GE(told.text.size(), ending.size());
+    EXPECT_EQ(told.text.substr(told.text.size() - ending.size()), ending);
+    EXPECT_EQ(told.title, "BrookletSystem");
+    EXPECT_EQ(told.buttons, BoxButtons::Ok);
+    EXPECT_EQ(told.icon, BoxIcon::Exclamation);
+    EXPECT_EQ(list()->currentText(), "Lawn");
     EXPECT_EQ(box(2)->text(), "70");
-
-    // Once the file can be written, Accept writes what was typed.
-    ASSERT_TRUE(std::filesystem::remove(session().LocalLandUseFile));
+    // Once the file can be written again, Accept writes what was typed.
+    std::filesystem::remove(file);
     accept();
     EXPECT_TRUE(windowClosed());
-    EXPECT_EQ(localFileBytes(), crlf({"\"Lot\",\"70\",\"\",\"\",\"\"", "\"\""}));
+    EXPECT_EQ(localFileBytes(), "\"Lawn\",\"70\",\"\",\"\",\"\"\r\n\"\"\r\n");
 }
 
 TEST_F(LocalLandUseEditorTest, ALabelClickTogglesItsHelp) {

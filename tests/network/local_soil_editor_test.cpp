@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QTableWidget>
 
+#include <filesystem>
+
 namespace brooklet::test {
 namespace {
 
@@ -113,6 +115,33 @@ TEST_F(LocalSoilEditorTest, ANewSoilIsTypedTickedAndAccepted) {
         soilFileBytes(),
         "\"Sandy loam\",\"A/D\"\r\n\"Clay\",\"D\"\r\n\"Silt loam\",\"B/C\"\r\n\"Muck\",\"B/C\"\r\n\"\"\r\n");
     EXPECT_FALSE(session().DataChanged);
+}
+
+TEST_F(LocalSoilEditorTest, AFileThatCannotBeWrittenIsToldAndTheWindowKeepsTheTicks) {
+    // A folder standing in the file's place: no write can replace it, not even as root.
+    const std::string file = session().LocalSoilFile;
+    ASSERT_TRUE(createFolder(file));
+    open();
+    enterName("Muck");
+    click(check(3));
+    accept();
+    EXPECT_FALSE(windowClosed());
+    EXPECT_TRUE(folderExists(file));
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    const BoxRequest& told = platform.boxes[0];
+    EXPECT_EQ(told.text.rfind("The file " + file + " could not be written (", 0), 0u) << told.text;
+    const std::string ending = "). The file is as it was before; the window stays open.";
+    ASSERT_GE(told.text.size(), ending.size());
+    EXPECT_EQ(told.text.substr(told.text.size() - ending.size()), ending);
+    EXPECT_EQ(told.title, "BrookletSystem");
+    EXPECT_EQ(told.icon, BoxIcon::Exclamation);
+    EXPECT_EQ(list()->currentText(), "Muck");
+    EXPECT_EQ(ticked(), "B");
+    // Once the file can be written again, Accept writes what was ticked.
+    std::filesystem::remove(file);
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(soilFileBytes(), "\"Muck\",\"B\"\r\n\"\"\r\n");
 }
 
 TEST_F(LocalSoilEditorTest, TicksAreStoredWhenAnotherSoilIsPicked) {

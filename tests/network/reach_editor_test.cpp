@@ -288,6 +288,24 @@ TEST_F(ReachAlternateTest, AcceptGivesTheReachesBackToTheAlternateAndRefreshesIt
     EXPECT_TRUE(session().DataChanged);
 }
 
+TEST_F(ReachAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesNothing) {
+    const std::string before = workFileBytes();
+    openOnAlternate(1, 1);
+    newReach("R8");
+    delete alternateWindow_.data();
+    accept();
+    EXPECT_TRUE(windowClosed());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"The Alternate Analysis window that this window was opened from has closed, so what "
+                    "was entered here cannot be written. The window closes without writing it.",
+                    "Stream Reach", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(context->watershed.AlternateReachCount[1], 1);
+    EXPECT_EQ(workFileBytes(), before);
+    EXPECT_FALSE(session().DataChanged);
+}
+
 TEST_F(ReachAlternateTest, AnAlternateWithNoReachesLeavesItsReachListEmpty) {
     openOnAlternate(2, 0);
     EXPECT_EQ(window->reachCount(), 0);

@@ -414,6 +414,25 @@ TEST_F(SubAreaAlternateTest, AcceptGivesTheRowsBackToTheAlternateAndRefreshesIts
     EXPECT_FALSE(session().DataChanged);
 }
 
+TEST_F(SubAreaAlternateTest, AfterTheAlternateWindowIsGoneAcceptSaysSoAndWritesNothing) {
+    const std::string before = workFileBytes();
+    openOnAlternate(2, 1);
+    enterList(1, "B2");
+    delete alternateWindow_.data();
+    accept();
+    EXPECT_TRUE(windowClosed());
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"The Alternate Analysis window that this window was opened from has closed, so what "
+                    "was entered here cannot be written. The window closes without writing it.",
+                    "Sub-Area", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(tables().AlternateSubAreaCount[2], 1);
+    EXPECT_EQ(tables().AlternateSubAreas(1, 2, 1), "B1");
+    EXPECT_EQ(workFileBytes(), before);
+    EXPECT_FALSE(session().DataChanged);
+}
+
 TEST_F(SubAreaAlternateTest, ANewEntryStartsEmpty) {
     openOnAlternate(1, 0);
     EXPECT_EQ(list(1)->currentText(), "");

@@ -165,6 +165,16 @@ TEST_F(AlternateEditorTest, AnAlternateWithADescriptionAndNoEntriesVanishesAtAcc
 }
 
 TEST_F(AlternateEditorTest, WithNoAlternateHoldingEntriesAcceptEmptiesTheFileAndChangesNothingElse) {
+    open();
+    choose("EMPTY");
+    QTest::keyClicks(box(2), "No entries");
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), "");
+    EXPECT_FALSE(session().DataChanged);
+}
+
+TEST_F(AlternateEditorTest, AcceptEmptyingAFileThatHadEntriesSetsDataChanged) {
     writeWorkFile({Header, alternateRecord("EMPTY", "No entries"), Reaches, reach("R1", "R2"), ""});
     open();
     choose("EMPTY");
@@ -174,7 +184,24 @@ TEST_F(AlternateEditorTest, WithNoAlternateHoldingEntriesAcceptEmptiesTheFileAnd
     accept();
     EXPECT_TRUE(windowClosed());
     EXPECT_EQ(workFileBytes(), "");
-    EXPECT_FALSE(session().DataChanged);
+    // The section now differs from the input file, which a save has to bring in line.
+    EXPECT_TRUE(session().DataChanged);
+}
+
+TEST_F(AlternateEditorTest, DeletingEveryAlternateSetsDataChanged) {
+    writeWorkFile(TwoAlternates);
+    open();
+    for (const char* name : {"BUILDOUT", "DRY"}) {
+        choose(name);
+        answer(BoxAnswer::Yes);
+        click(button("cmdDelCur"));
+    }
+    EXPECT_EQ(store().AlternateCount, 0);
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), "");
+    EXPECT_TRUE(session().DataChanged);
+    EXPECT_EQ(listItem(), "     " + session().SectionTable[AlternateSection]);
 }
 
 TEST_F(AlternateEditorTest, RecordsBeforeAnyListOpeningAreIgnored) {
@@ -404,6 +431,120 @@ TEST_F(AlternateEditorTest, WithCurrentAlternateZeroTheSubAreaWindowLeavesTheSto
     EXPECT_EQ(store().AlternateSubAreaCount, before.AlternateSubAreaCount);
     EXPECT_EQ(store().AlternateReachCount, before.AlternateReachCount);
     EXPECT_EQ(store().AlternateLandUse, before.AlternateLandUse);
+}
+
+// ---- The sub-area and reach windows belong to the alternate window -----------------------------
+
+const std::string KeepChangesQuestion = "Keep the changes made in this window? Yes accepts them, No discards "
+                                        "them, Cancel returns to the window.";
+
+class AlternateChildrenTest : public AlternateEditorTest {
+protected:
+    // BUILDOUT chosen, its first sub-area entry handed to frmSubArea, and a new sub-area typed
+    // there.
+    frmSubArea* subAreaWindowWithTyping() {
+        writeWorkFile(TwoAlternates);
+        open();
+        choose("BUILDOUT");
+        clickList(1, 0);
+        auto* subAreas = opened<frmSubArea>("frmSubArea");
+        if (!subAreas)
+            return nullptr;
+        auto* name = control<QComboBox>(subAreas, "cmbInp(1)");
+        name->setFocus(Qt::MouseFocusReason);
+        name->setEditText(QString());
+        QTest::keyClicks(name, "NEW-1");
+        QTest::keyClick(name, Qt::Key_Tab);
+        return subAreas;
+    }
+    bool closed(const char* name) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return context->windows.loaded(name) == nullptr;
+    }
+};
+
+TEST_F(AlternateChildrenTest, DeletingAnAlternateFirstAsksItsSubAreaWindowToClose) {
+    ASSERT_NE(subAreaWindowWithTyping(), nullptr);
+    answer(BoxAnswer::No);
+    answer(BoxAnswer::Yes);
+    click(button("cmdDelCur"));
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{KeepChangesQuestion, "Sub-Area", BoxButtons::YesNoCancel, BoxIcon::Question}));
+    EXPECT_EQ(platform.boxes[1].text, "Delete Current Alternate Data ?");
+    EXPECT_TRUE(closed("frmSubArea"));
+    EXPECT_EQ(store().AlternateCount, 1);
+    accept();
+    EXPECT_EQ(workFileBytes(),
+              crlf({Header, alternateRecord("DRY", "Areas only"), Areas, area("UP-1", "0.5"), ""}));
+}
+
+TEST_F(AlternateChildrenTest, CancelInTheSubAreaWindowKeepsTheAlternateAndTheWindow) {
+    frmSubArea* subAreas = subAreaWindowWithTyping();
+    ASSERT_NE(subAreas, nullptr);
+    answer(BoxAnswer::Cancel);
+    click(button("cmdDelCur"));
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].title, "Sub-Area");
+    EXPECT_FALSE(closed("frmSubArea"));
+    EXPECT_EQ(control<QComboBox>(subAreas, "cmbInp(1)")->currentText(), "NEW-1");
+    EXPECT_EQ(store().AlternateCount, 2);
+    EXPECT_EQ(comboItems(), (Lines{"BUILDOUT", "DRY"}));
+}
+
+TEST_F(AlternateChildrenTest, DeletingAnEntryFirstAsksTheSubAreaWindowToClose) {
+    ASSERT_NE(subAreaWindowWithTyping(), nullptr);
+    answer(BoxAnswer::No);
+    answer(BoxAnswer::Yes);
+    clickList(1, 1, Qt::MiddleButton);
+    ASSERT_EQ(platform.boxes.size(), 2u);
+    EXPECT_EQ(platform.boxes[0].title, "Sub-Area");
+    EXPECT_EQ(platform.boxes[1].text, "Delete LOWER-2 from Current Alternate ?");
+    EXPECT_TRUE(closed("frmSubArea"));
+    accept();
+    Lines expected = TwoAlternates;
+    expected.erase(expected.begin() + 6);
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+}
+
+TEST_F(AlternateChildrenTest, TheReachWindowClosesWithTheAlternateWindowAndYesKeepsItsEntry) {
+    writeWorkFile(TwoAlternates);
+    writeBytes(workFile(ReachSection), crlf(sectionOf("STREAM REACH:")));
+    open();
+    choose("DRY");
+    clickList(2, -1);
+    auto* reaches = opened<frmReaches>("frmReaches");
+    ASSERT_NE(reaches, nullptr);
+    auto* reachList = control<QComboBox>(reaches, "cmbInp(1)");
+    reachList->setFocus(Qt::MouseFocusReason);
+    QTest::keyClicks(reachList, "R7");
+    QTest::keyClick(reachList, Qt::Key_Tab);
+    answer(BoxAnswer::Yes);
+    accept();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0],
+              (BoxRequest{KeepChangesQuestion, "Stream Reach", BoxButtons::YesNoCancel, BoxIcon::Question}));
+    EXPECT_TRUE(closed("frmReaches"));
+    EXPECT_TRUE(windowClosed());
+    Lines expected = TwoAlternates;
+    expected.insert(expected.begin() + 8, {Reaches, tens({"", "R7", "", "", "", "", ""}) + "      "});
+    EXPECT_EQ(workFileBytes(), crlf(expected));
+    // The reach of an alternate goes to the alternate section only.
+    EXPECT_EQ(bytesOf(workFile(ReachSection)), crlf(sectionOf("STREAM REACH:")));
+    EXPECT_TRUE(session().DataChanged);
+}
+
+TEST_F(AlternateChildrenTest, NoChangesClosesTheSubAreaWindowWhichNoDiscards) {
+    ASSERT_NE(subAreaWindowWithTyping(), nullptr);
+    const std::string before = workFileBytes();
+    answer(BoxAnswer::No);
+    cancel();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].title, "Sub-Area");
+    EXPECT_TRUE(closed("frmSubArea"));
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), before);
+    EXPECT_FALSE(session().DataChanged);
 }
 
 TEST_F(AlternateEditorTest, TheHelpCodeReturnsWhenTheWindowIsActivatedAgain) {
