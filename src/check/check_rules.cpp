@@ -13,6 +13,9 @@ const char* const StandardRainTables[] = {"Type I",     "Type IA",   "Type II", 
 } // namespace
 
 std::string NameIndex::key(const std::string& name) {
+    // Fields are read trimmed: most names need no trimming, and no copy for it.
+    if (name.empty() || (name.front() != ' ' && name.back() != ' '))
+        return toUpper(name);
     return toUpper(trim(name));
 }
 
@@ -37,7 +40,8 @@ RuleContext::RuleContext(const CheckInput& checkInput)
       alternates(records.alternates, [](const AlternateEntry& entry) { return entry.id; }) {}
 
 bool RuleContext::isElement(const std::string& name) const {
-    return NameIndex::key(name) == "OUTLET" || reaches.has(name) || subAreas.has(name);
+    const std::string key = NameIndex::key(name);
+    return key == "OUTLET" || reaches.hasKey(key) || subAreas.hasKey(key);
 }
 
 bool RuleContext::isRainTable(const std::string& name) const {

@@ -22,7 +22,9 @@ public:
             add(name(entries[i]), static_cast<int>(i));
     }
     void add(const std::string& name, int position);
-    bool has(const std::string& name) const { return positions_.count(key(name)) != 0; }
+    bool has(const std::string& name) const { return hasKey(key(name)); }
+    // The same for a name already made a key.
+    bool hasKey(const std::string& key) const { return positions_.count(key) != 0; }
     // The position of the first entry of the name; -1 for none.
     int find(const std::string& name) const;
     static std::string key(const std::string& name);

@@ -5,16 +5,14 @@
 namespace brooklet {
 namespace {
 
-// Reports each entry whose name an earlier entry of the same entries already has.
+// Reports each entry whose name an earlier entry of the same entries already has; Index holds
+// the first entry of each name.
 template <typename Entries, typename Name, typename Report>
-void eachRepeated(const Entries& entries, Name name, Report report) {
-    NameIndex first;
+void eachRepeated(const Entries& entries, const NameIndex& index, Name name, Report report) {
     for (size_t i = 0; i < entries.size(); ++i) {
-        const int earlier = first.find(name(entries[i]));
-        if (earlier >= 0)
-            report(entries[i], entries[static_cast<size_t>(earlier)]);
-        else
-            first.add(name(entries[i]), static_cast<int>(i));
+        const int first = index.find(name(entries[i]));
+        if (first >= 0 && static_cast<size_t>(first) != i)
+            report(entries[i], entries[static_cast<size_t>(first)]);
     }
 }
 
@@ -29,16 +27,18 @@ void CheckDuplicateIdentifiers(const RuleContext& context, Findings& findings) {
     const WatershedRecords& records = context.records;
     auto byId = [](const auto& entry) { return entry.id; };
 
-    eachRepeated(records.subAreas, byId, [&](const SubAreaEntry& entry, const SubAreaEntry& first) {
-        addFinding(findings, Severity::Error, SubAreaSection, entry.id, "Sub-Area Identifier", entry.line,
-                   definedTwice("Sub-area", entry.id, first.line))
-            .box = 1;
-    });
-    eachRepeated(records.reaches, byId, [&](const ReachEntry& entry, const ReachEntry& first) {
-        addFinding(findings, Severity::Error, ReachSection, entry.id, "Stream Reach Identifier", entry.line,
-                   definedTwice("Stream reach", entry.id, first.line))
-            .box = 1;
-    });
+    eachRepeated(records.subAreas, context.subAreas, byId,
+                 [&](const SubAreaEntry& entry, const SubAreaEntry& first) {
+                     addFinding(findings, Severity::Error, SubAreaSection, entry.id, "Sub-Area Identifier",
+                                entry.line, definedTwice("Sub-area", entry.id, first.line))
+                         .box = 1;
+                 });
+    eachRepeated(records.reaches, context.reaches, byId,
+                 [&](const ReachEntry& entry, const ReachEntry& first) {
+                     addFinding(findings, Severity::Error, ReachSection, entry.id, "Stream Reach Identifier",
+                                entry.line, definedTwice("Stream reach", entry.id, first.line))
+                         .box = 1;
+                 });
     // A reach and a sub-area of one name, or an element named OUTLET, make two elements of a name.
     for (const SubAreaEntry& entry : records.subAreas)
         if (context.reaches.has(entry.id) || NameIndex::key(entry.id) == "OUTLET")
@@ -54,35 +54,39 @@ void CheckDuplicateIdentifiers(const RuleContext& context, Findings& findings) {
                        "A stream reach is named OUTLET, the name of the watershed's outlet. Rename it.")
                 .box = 1;
 
-    auto tables = [&](const std::vector<TableEntry>& entries, int section, const std::string& what,
-                      const std::string& field) {
-        eachRepeated(entries, byId, [&](const TableEntry& entry, const TableEntry& first) {
+    auto tables = [&](const std::vector<TableEntry>& entries, const NameIndex& index, int section,
+                      const std::string& what, const std::string& field) {
+        eachRepeated(entries, index, byId, [&](const TableEntry& entry, const TableEntry& first) {
             addFinding(findings, Severity::Error, section, entry.id, field, entry.line,
                        definedTwice(what, entry.id, first.line))
                 .box = 1;
         });
     };
-    tables(records.structures, StructureSection, "Structure", "Structure Identifier");
-    tables(records.crossSections, CrossSectionSection, "Cross section", "Cross Section Identifier");
-    tables(records.rainTables, RainfallDistributionSection, "Rain table", "Rain Table Identifier");
-    tables(records.inputHydrographs, InputHydrographSection, "Input hydrograph",
-           "Input Hydrograph Identifier");
-    eachRepeated(records.alternates, byId, [&](const AlternateEntry& entry, const AlternateEntry& first) {
-        addFinding(findings, Severity::Error, AlternateSection, entry.id, "Alternate Identifier", entry.line,
-                   definedTwice("Alternate", entry.id, first.line))
-            .box = 1;
-    });
-    eachRepeated(
-        records.storms, [](const StormEntry& storm) { return storm.id + "|" + storm.gage; },
-        [&](const StormEntry& storm, const StormEntry& first) {
-            Finding& finding = addFinding(findings, Severity::Error, StormSection,
-                                          storm.id + " " + storm.gage, "Rain Gage Identifier", storm.line,
-                                          "Storm " + storm.id + " has two records for gage " + storm.gage +
-                                              " (first on line " + std::to_string(first.line) +
-                                              "), and the model takes only one of them. Delete one.");
-            finding.entry = storm.id + "|" + storm.gage;
-            finding.box = 2;
-        });
+    tables(records.structures, context.structures, StructureSection, "Structure", "Structure Identifier");
+    tables(records.crossSections, context.crossSections, CrossSectionSection, "Cross section",
+           "Cross Section Identifier");
+    tables(records.rainTables, context.rainTables, RainfallDistributionSection, "Rain table",
+           "Rain Table Identifier");
+    tables(records.inputHydrographs, NameIndex(records.inputHydrographs, byId), InputHydrographSection,
+           "Input hydrograph", "Input Hydrograph Identifier");
+    eachRepeated(records.alternates, context.alternates, byId,
+                 [&](const AlternateEntry& entry, const AlternateEntry& first) {
+                     addFinding(findings, Severity::Error, AlternateSection, entry.id, "Alternate Identifier",
+                                entry.line, definedTwice("Alternate", entry.id, first.line))
+                         .box = 1;
+                 });
+    const auto stormAndGage = [](const StormEntry& storm) { return storm.id + "|" + storm.gage; };
+    eachRepeated(records.storms, NameIndex(records.storms, stormAndGage), stormAndGage,
+                 [&](const StormEntry& storm, const StormEntry& first) {
+                     Finding& finding =
+                         addFinding(findings, Severity::Error, StormSection, storm.id + " " + storm.gage,
+                                    "Rain Gage Identifier", storm.line,
+                                    "Storm " + storm.id + " has two records for gage " + storm.gage +
+                                        " (first on line " + std::to_string(first.line) +
+                                        "), and the model takes only one of them. Delete one.");
+                     finding.entry = storm.id + "|" + storm.gage;
+                     finding.box = 2;
+                 });
 }
 
 } // namespace brooklet

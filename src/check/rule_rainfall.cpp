@@ -1,6 +1,5 @@
 // Rain reaches every sub-area: its rain gage has storm records, each storm covers every gage in
 // use, a storm's rain table exists, and an input hydrograph belongs to a storm that exists.
-#include <set>
 #include <unordered_set>
 
 #include "check/check_rules.h"
@@ -39,12 +38,12 @@ void CheckRainfallReferences(const RuleContext& context, Findings& findings) {
         }
     }
 
-    // Each gage a sub-area uses, with the first sub-area that uses it.
-    std::set<std::string> gagesReported;
+    // The gages the sub-areas use, in the order first used, each with its first user.
+    std::vector<std::pair<std::string, std::string>> usedGages; // gage, who uses it
+    std::unordered_set<std::string> usedKeys;
     eachSubArea(records, [&](const SubAreaEntry& entry, const std::string& alternate) {
-        const std::string key = NameIndex::key(entry.gage);
+        const std::string who = subAreaName(alternate, entry.id);
         if (!context.gages.has(entry.gage)) {
-            const std::string who = subAreaName(alternate, entry.id);
             addSubAreaFinding(
                 findings, Severity::Error, alternate, entry, GageField, 3, entry.line,
                 entry.gage.empty()
@@ -53,20 +52,48 @@ void CheckRainfallReferences(const RuleContext& context, Findings& findings) {
                     : who + " takes its rain from gage " + entry.gage +
                           ", which no storm of Storm Analysis names. Choose an existing gage, or "
                           "enter the storms at that gage.");
-            return;
+        } else if (usedKeys.insert(NameIndex::key(entry.gage)).second) {
+            usedGages.emplace_back(entry.gage, who);
         }
-        if (!gagesReported.insert(key).second)
-            return;
-        for (const StormEntry* storm : storms)
-            if (stormGages[NameIndex::key(storm->id)].count(key) == 0) {
-                Finding& finding = addFinding(
-                    findings, Severity::Warning, StormSection, storm->id, "Rain Gage Identifier", storm->line,
-                    "Storm " + storm->id + " gives no rain at gage " + entry.gage + ", which " +
-                        subAreaName(alternate, entry.id) + " uses. Add a record of the storm at that gage.");
-                finding.entry = storm->id + "|" + storm->gage;
-                finding.box = 2;
-            }
     });
+
+    // Each storm gives rain at every gage in use. A storm's gages are counted against those in
+    // use; only a storm that misses some walks the gages in use, and stops at the fourth it
+    // misses, so the work stays within the storm's own records.
+    constexpr size_t Named = 3;
+    for (const StormEntry* storm : storms) {
+        const auto& gages = stormGages[NameIndex::key(storm->id)];
+        size_t covered = 0;
+        for (const std::string& gage : gages)
+            covered += usedKeys.count(gage);
+        if (covered == usedGages.size())
+            continue;
+        std::vector<const std::pair<std::string, std::string>*> missing;
+        for (const auto& used : usedGages) {
+            if (gages.count(NameIndex::key(used.first)) != 0)
+                continue;
+            missing.push_back(&used);
+            if (missing.size() > Named)
+                break;
+        }
+        const size_t missingCount = usedGages.size() - covered;
+        std::string message = "Storm " + storm->id + " gives no rain at gage " + missing[0]->first +
+                              ", which " + missing[0]->second + " uses";
+        if (missingCount > 1) {
+            message = "Storm " + storm->id + " gives no rain at " + std::to_string(missingCount) +
+                      " gages that sub-areas use: ";
+            for (size_t i = 0; i < missing.size() && i < Named; ++i)
+                message += (i == 0 ? "" : ", ") + missing[i]->first;
+            if (missingCount > Named)
+                message += " and " + std::to_string(missingCount - Named) + " more";
+        }
+        message += missingCount > 1 ? ". Add records of the storm at those gages."
+                                    : ". Add a record of the storm at that gage.";
+        Finding& finding = addFinding(findings, Severity::Warning, StormSection, storm->id,
+                                      "Rain Gage Identifier", storm->line, message);
+        finding.entry = storm->id + "|" + storm->gage;
+        finding.box = 2;
+    }
 
     for (const TableEntry& hydrograph : records.inputHydrographs) {
         const std::string& storm = hydrograph.fields[1];

@@ -194,6 +194,9 @@ void readLocalLandUses(const SectionText& text, std::vector<KnownLandUse>& landU
 WatershedRecords ReadWatershedRecords(const CheckInput& input) {
     WatershedRecords records;
     const auto& sections = input.sections;
+    // At most one entry a line: room for them all at once.
+    records.subAreas.reserve(sections[SubAreaSection].lines.size());
+    records.reaches.reserve(sections[ReachSection].lines.size());
     for (int section = 1; section <= SectionCount; ++section)
         records.headerLine[section] =
             sections[section].lineNumbers.empty() ? 0 : sections[section].lineNumbers[0];
