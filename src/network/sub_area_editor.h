@@ -37,6 +37,7 @@ protected:
     bool checkBox(int index) override;
     int nextBox(int index) const override;
     int optionFocusBox() const override { return 1; }
+    int entryRow(const std::string& name) const override { return findRow(name); }
 
 private:
     void buildControls();

@@ -55,6 +55,10 @@ public:
     virtual void acceptChanges();
     // "No Changes": closes; nothing is written and DataChanged stays as it was.
     void noChanges();
+    // Shows the entry named Entry (a window of one entry is that entry) and gives box Box the
+    // focus, as a finding of Check Watershed asks. False when the window has no such entry:
+    // then nothing is shown and nothing new is made.
+    virtual bool showEntry(const std::string& entry, int box);
 
 protected:
     EntryWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
