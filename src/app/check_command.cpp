@@ -34,7 +34,7 @@ void showCheckWindow(AppContext& context, const Findings& findings) {
 
 CommandCheck CheckBeforeCommand(AppContext& context, CheckedCommand command) {
     CommandCheck result;
-    if (context.session.WatershedChecked)
+    if (!context.CheckBeforeRunAndSaveAs || context.session.WatershedChecked)
         return result;
     result.findings = CheckSessionWatershed(context);
     if (errorCount(result.findings) == 0)

@@ -60,7 +60,7 @@ void CheckRatingOrder(const RuleContext& context, Findings& findings) {
                     true);
     for (const TableEntry& table : records.rainTables)
         checkRising(findings, RainfallDistributionSection, table, "Rain table " + table.id,
-                    {{0, "Mass Rainfall Points", 3}}, false);
+                    {{0, "Mass Rainfall Points", 1}}, false);
 }
 
 } // namespace brooklet

@@ -76,7 +76,7 @@ void CheckTableValues(const RuleContext& context, Findings& findings) {
         if (table.rows.empty())
             noValues(RainfallDistributionSection, table, who, "Rain Table Identifier",
                      "mass rainfall points");
-        checkRowValues(findings, RainfallDistributionSection, table, who, 0, "Mass Rainfall Points", 3,
+        checkRowValues(findings, RainfallDistributionSection, table, who, 0, "Mass Rainfall Points", 1,
                        "a number of 0 or more", atLeastZero);
     }
 
@@ -103,7 +103,7 @@ void CheckTableValues(const RuleContext& context, Findings& findings) {
                 " has the base flow " + quoted(table.fields[5]) + ", which is not a number of 0 or more.");
         if (table.rows.empty())
             noValues(InputHydrographSection, table, who, "Input Hydrograph Identifier", "flows");
-        checkRowValues(findings, InputHydrographSection, table, who, 0, "Input Hydrograph Flows", 8,
+        checkRowValues(findings, InputHydrographSection, table, who, 0, "Input Hydrograph Flows", 1,
                        "a flow of 0 or more", atLeastZero);
     }
 
