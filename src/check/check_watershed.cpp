@@ -7,14 +7,20 @@
 namespace brooklet {
 
 Findings CheckWatershed(const CheckInput& input) {
-    Findings findings = input.readingFindings;
     const RuleContext context(input);
     Findings ruled;
     for (const RuleEntry& rule : checkRules())
         rule.rule(context, ruled);
-    std::stable_sort(ruled.begin(), ruled.end(),
-                     [](const Finding& a, const Finding& b) { return a.line < b.line; });
-    findings.insert(findings.end(), ruled.begin(), ruled.end());
+    // In the order of their lines; the findings themselves are moved once, their places sorted.
+    std::vector<size_t> order(ruled.size());
+    for (size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::stable_sort(order.begin(), order.end(),
+                     [&ruled](size_t a, size_t b) { return ruled[a].line < ruled[b].line; });
+    Findings findings = input.readingFindings;
+    findings.reserve(findings.size() + ruled.size());
+    for (size_t i : order)
+        findings.push_back(std::move(ruled[i]));
     return findings;
 }
 

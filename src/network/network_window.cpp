@@ -208,7 +208,8 @@ void NetworkWindow::clearBox(int index) {
 }
 
 bool NetworkWindow::showEntry(const std::string& entry, int box) {
-    if (entryRow(entry) == 0)
+    // A window working on an alternate holds that alternate's rows, not the section's.
+    if (alternateMode() || entryRow(entry) == 0)
         return false;
     cmbInp(1)->setEditText(fromBytes(entry));
     leaveList(1);

@@ -33,7 +33,8 @@ public:
     // asks for. False when the field check refused the text.
     virtual bool leaveList(int index) = 0;
     // The row of the named entry is shown as if chosen in list 1, and box Box takes the focus.
-    // Only an entry the window has: a name it has not is not made a new row.
+    // Only an entry the window has: a name it has not is not made a new row, and a window
+    // working on an alternate shows no row of the section.
     bool showEntry(const std::string& entry, int box) override;
 
     // The window works on an alternate of the alternate store.

@@ -306,6 +306,18 @@ TEST_F(CheckWindowTest, AFindingOfAnEntryTheEditorHasNotMakesNoNewEntry) {
     EXPECT_EQ(context->tabular.TableCount, 1);
 }
 
+TEST_F(CheckWindowTest, ASubAreaWindowWorkingOnAnAlternateShowsNoRowOfTheSection) {
+    openFile(inputFile("shed.inp", cleanWatershed()));
+    context->windows.ShowWindowAtOrigin("frmAlternate");
+    context->CurrentAlternate = 1;
+    QWidget* editor = context->windows.ShowWindowAtOrigin("frmSubArea");
+    ASSERT_NE(editor, nullptr);
+    openFindingOf(SubAreaSection, "A2", 4);
+    EXPECT_EQ(context->windows.loaded("frmSubArea"), editor);
+    EXPECT_EQ(control<QComboBox>(editor, "cmbInp(1)")->currentText(), "");
+    EXPECT_EQ(context->watershed.SubAreaCount, 1); // the alternate's one sub-area
+}
+
 TEST_F(CheckWindowTest, RunWithErrorsAnsweredNoRunsNothingAndShowsTheFindings) {
     installModel();
     openFile(inputFile("shed.inp", watershedWithAnError()));
