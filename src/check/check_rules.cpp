@@ -20,7 +20,9 @@ std::string NameIndex::key(const std::string& name) {
 }
 
 void NameIndex::add(const std::string& name, int position) {
-    positions_.emplace(key(name), position);
+    const auto [place, added] = positions_.emplace(key(name), position);
+    if (!added)
+        repeats_.emplace_back(position, place->second);
 }
 
 int NameIndex::find(const std::string& name) const {
@@ -37,7 +39,25 @@ RuleContext::RuleContext(const CheckInput& checkInput)
       rainTables(records.rainTables, [](const TableEntry& entry) { return entry.id; }),
       stormIds(records.storms, [](const StormEntry& entry) { return entry.id; }),
       gages(records.storms, [](const StormEntry& entry) { return entry.gage; }),
-      alternates(records.alternates, [](const AlternateEntry& entry) { return entry.id; }) {}
+      alternates(records.alternates, [](const AlternateEntry& entry) { return entry.id; }) {
+    reachDownstream.reserve(records.reaches.size());
+    for (const ReachEntry& entry : records.reaches)
+        reachDownstream.push_back(downstreamOf(entry.receiving));
+    subAreaDownstream.reserve(records.subAreas.size());
+    for (const SubAreaEntry& entry : records.subAreas)
+        subAreaDownstream.push_back(downstreamOf(entry.reach));
+}
+
+int RuleContext::downstreamOf(const std::string& name) const {
+    const std::string key = NameIndex::key(name);
+    if (key == "OUTLET")
+        return Outlet;
+    if (const int reach = reaches.find(key); reach >= 0)
+        return reach;
+    if (const int subArea = subAreas.find(key); subArea >= 0)
+        return static_cast<int>(records.reaches.size()) + subArea;
+    return Nowhere;
+}
 
 bool RuleContext::isElement(const std::string& name) const {
     const std::string key = NameIndex::key(name);

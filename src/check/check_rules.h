@@ -21,7 +21,11 @@ public:
         for (size_t i = 0; i < entries.size(); ++i)
             add(name(entries[i]), static_cast<int>(i));
     }
+    // Adds the name at Position unless an earlier entry has it; then the pair of positions is
+    // kept among the repeats.
     void add(const std::string& name, int position);
+    // Each later entry of a name the index had already, with the position of the first.
+    const std::vector<std::pair<int, int>>& repeats() const { return repeats_; }
     bool has(const std::string& name) const { return hasKey(key(name)); }
     // The same for a name already made a key.
     bool hasKey(const std::string& key) const { return positions_.count(key) != 0; }
@@ -31,6 +35,7 @@ public:
 
 private:
     std::unordered_map<std::string, int> positions_;
+    std::vector<std::pair<int, int>> repeats_;
 };
 
 // What every rule reads: the records, and the identifiers of each section, indexed once.
@@ -39,6 +44,12 @@ struct RuleContext {
     const CheckInput& input;
     WatershedRecords records;
     NameIndex subAreas, reaches, structures, crossSections, rainTables, stormIds, gages, alternates;
+    // Where each sub-area and reach of the base data drains, looked up once: the position of a
+    // reach, reach count + the position of a sub-area, Outlet, or Nowhere (blank or no element).
+    static constexpr int Outlet = -2;
+    static constexpr int Nowhere = -1;
+    std::vector<int> reachDownstream, subAreaDownstream;
+    int downstreamOf(const std::string& name) const;
     // True for the name of a reach, a sub-area or the outlet: an element something can drain into.
     bool isElement(const std::string& name) const;
     // True for one of the ten rain tables the model has built in, or a table of the rainfall

@@ -31,6 +31,11 @@ void CheckDownstreamElements(const RuleContext& context, Findings& findings) {
     std::unordered_map<std::string, size_t> alternateIndex;
     for (size_t i = 0; i < records.alternates.size(); ++i)
         alternateIndex.emplace(records.alternates[i].id, i);
+    // The base data's entries were looked up once, in the rule context.
+    auto baseDrainsSomewhere = [](const auto& entry, const auto& entries,
+                                  const std::vector<int>& downstream) {
+        return downstream[static_cast<size_t>(&entry - entries.data())] != RuleContext::Nowhere;
+    };
     auto exists = [&](const std::string& name, const std::string& alternate) {
         if (context.isElement(name))
             return true;
@@ -44,7 +49,8 @@ void CheckDownstreamElements(const RuleContext& context, Findings& findings) {
                 findings, Severity::Error, alternate, entry, SubAreaReachField, 2, entry.line,
                 who + " drains into no element. Enter the reach it drains into, or OUTLET, as its " +
                     SubAreaReachField + ".");
-        else if (!exists(entry.reach, alternate))
+        else if (alternate.empty() ? !baseDrainsSomewhere(entry, records.subAreas, context.subAreaDownstream)
+                                   : !exists(entry.reach, alternate))
             addSubAreaFinding(
                 findings, Severity::Error, alternate, entry, SubAreaReachField, 2, entry.line,
                 who + " drains into " + entry.reach +
@@ -60,7 +66,8 @@ void CheckDownstreamElements(const RuleContext& context, Findings& findings) {
                             who +
                                 " drains into no element. Enter the reach it drains into, or OUTLET, as its "
                                 "receiving reach.");
-        else if (!exists(entry.receiving, alternate))
+        else if (alternate.empty() ? !baseDrainsSomewhere(entry, records.reaches, context.reachDownstream)
+                                   : !exists(entry.receiving, alternate))
             addReachFinding(
                 findings, Severity::Error, alternate, entry, ReceivingField, 2, entry.line,
                 who + " drains into " + entry.receiving +

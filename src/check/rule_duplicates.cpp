@@ -5,15 +5,12 @@
 namespace brooklet {
 namespace {
 
-// Reports each entry whose name an earlier entry of the same entries already has; Index holds
-// the first entry of each name.
-template <typename Entries, typename Name, typename Report>
-void eachRepeated(const Entries& entries, const NameIndex& index, Name name, Report report) {
-    for (size_t i = 0; i < entries.size(); ++i) {
-        const int first = index.find(name(entries[i]));
-        if (first >= 0 && static_cast<size_t>(first) != i)
-            report(entries[i], entries[static_cast<size_t>(first)]);
-    }
+// Reports each entry whose name an earlier entry of the same entries already has, as the index of
+// the entries kept them.
+template <typename Entries, typename Report>
+void eachRepeated(const Entries& entries, const NameIndex& index, Report report) {
+    for (const auto& [later, first] : index.repeats())
+        report(entries[static_cast<size_t>(later)], entries[static_cast<size_t>(first)]);
 }
 
 std::string definedTwice(const std::string& what, const std::string& id, int firstLine) {
@@ -27,18 +24,17 @@ void CheckDuplicateIdentifiers(const RuleContext& context, Findings& findings) {
     const WatershedRecords& records = context.records;
     auto byId = [](const auto& entry) { return entry.id; };
 
-    eachRepeated(records.subAreas, context.subAreas, byId,
+    eachRepeated(records.subAreas, context.subAreas,
                  [&](const SubAreaEntry& entry, const SubAreaEntry& first) {
                      addFinding(findings, Severity::Error, SubAreaSection, entry.id, "Sub-Area Identifier",
                                 entry.line, definedTwice("Sub-area", entry.id, first.line))
                          .box = 1;
                  });
-    eachRepeated(records.reaches, context.reaches, byId,
-                 [&](const ReachEntry& entry, const ReachEntry& first) {
-                     addFinding(findings, Severity::Error, ReachSection, entry.id, "Stream Reach Identifier",
-                                entry.line, definedTwice("Stream reach", entry.id, first.line))
-                         .box = 1;
-                 });
+    eachRepeated(records.reaches, context.reaches, [&](const ReachEntry& entry, const ReachEntry& first) {
+        addFinding(findings, Severity::Error, ReachSection, entry.id, "Stream Reach Identifier", entry.line,
+                   definedTwice("Stream reach", entry.id, first.line))
+            .box = 1;
+    });
     // A reach and a sub-area of one name, or an element named OUTLET, make two elements of a name.
     for (const SubAreaEntry& entry : records.subAreas)
         if (context.reaches.has(entry.id) || NameIndex::key(entry.id) == "OUTLET")
@@ -56,7 +52,7 @@ void CheckDuplicateIdentifiers(const RuleContext& context, Findings& findings) {
 
     auto tables = [&](const std::vector<TableEntry>& entries, const NameIndex& index, int section,
                       const std::string& what, const std::string& field) {
-        eachRepeated(entries, index, byId, [&](const TableEntry& entry, const TableEntry& first) {
+        eachRepeated(entries, index, [&](const TableEntry& entry, const TableEntry& first) {
             addFinding(findings, Severity::Error, section, entry.id, field, entry.line,
                        definedTwice(what, entry.id, first.line))
                 .box = 1;
@@ -69,14 +65,14 @@ void CheckDuplicateIdentifiers(const RuleContext& context, Findings& findings) {
            "Rain Table Identifier");
     tables(records.inputHydrographs, NameIndex(records.inputHydrographs, byId), InputHydrographSection,
            "Input hydrograph", "Input Hydrograph Identifier");
-    eachRepeated(records.alternates, context.alternates, byId,
+    eachRepeated(records.alternates, context.alternates,
                  [&](const AlternateEntry& entry, const AlternateEntry& first) {
                      addFinding(findings, Severity::Error, AlternateSection, entry.id, "Alternate Identifier",
                                 entry.line, definedTwice("Alternate", entry.id, first.line))
                          .box = 1;
                  });
     const auto stormAndGage = [](const StormEntry& storm) { return storm.id + "|" + storm.gage; };
-    eachRepeated(records.storms, NameIndex(records.storms, stormAndGage), stormAndGage,
+    eachRepeated(records.storms, NameIndex(records.storms, stormAndGage),
                  [&](const StormEntry& storm, const StormEntry& first) {
                      Finding& finding =
                          addFinding(findings, Severity::Error, StormSection, storm.id + " " + storm.gage,

@@ -7,8 +7,8 @@
 namespace brooklet {
 namespace {
 
-constexpr int Outlet = -2;
-constexpr int Nowhere = -1;
+constexpr int Outlet = RuleContext::Outlet;
+constexpr int Nowhere = RuleContext::Nowhere;
 
 struct Element {
     const std::string* name;
@@ -51,18 +51,13 @@ void CheckNetworkGraph(const RuleContext& context, Findings& findings) {
     if (elements.empty())
         return;
 
-    const int reachCount = static_cast<int>(records.reaches.size());
+    const size_t reachCount = records.reaches.size();
     bool outletDrainedInto = false;
-    for (Element& element : elements) {
-        const std::string& name = *element.downstreamName;
-        if (NameIndex::key(name) == "OUTLET") {
-            element.downstream = Outlet;
-            outletDrainedInto = true;
-        } else if (const int reach = context.reaches.find(name); reach >= 0) {
-            element.downstream = reach;
-        } else if (const int subArea = context.subAreas.find(name); subArea >= 0) {
-            element.downstream = reachCount + subArea;
-        }
+    for (size_t i = 0; i < elements.size(); ++i) {
+        Element& element = elements[i];
+        element.downstream =
+            i < reachCount ? context.reachDownstream[i] : context.subAreaDownstream[i - reachCount];
+        outletDrainedInto = outletDrainedInto || element.downstream == Outlet;
     }
 
     // State of each element: not walked yet, on the path being walked (its place on the path
