@@ -5,7 +5,10 @@
 
 #include <cstdio>
 #include <cstring>
+#include <iostream>
+#include <string>
 
+#include "app/check_command.h"
 #include "app/main_window.h"
 #include "app/program_folder.h"
 #include "app/window_catalog.h"
@@ -20,6 +23,13 @@ int main(int argc, char* argv[]) {
         std::printf("Brooklet %s\n", brooklet::ProgramVersion);
         return 0;
     }
+
+    // "brooklet --check FILE" checks an input file without opening it, with the local land uses
+    // of the program folder: the folder it is started in.
+    if (argc == 3 && std::string(argv[1]) == "--check")
+        return brooklet::RunCheckCommand(
+            argv[2], brooklet::currentFolder() + brooklet::folderSeparator() + "Local_Land_Use_Data.txt",
+            std::cout);
 
     QApplication app(argc, argv);
     QApplication::setApplicationName("Brooklet");

@@ -1,6 +1,8 @@
 #include "app/main_window.h"
 
+#include "app/check_command.h"
 #include "app/file_commands.h"
+#include "check/check_window.h"
 #include "editing/help_windows.h"
 #include "network/standard_land_use.h"
 #include "run/file_viewer.h"
@@ -20,17 +22,13 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace brooklet {
 namespace {
 
 const char* const DesignCaption = "Brooklet System Controller /  Editor ";
-
-const char* const EditorWindows[] = {"",           "frmAlternate", "frmDimHyd",      "frmDurInc",
-                                     "frmGlobal",  "frmInpHyd",    "frmRainDist",    "frmXsect",
-                                     "frmReaches", "frmStorm",     "frmStruct",      "frmSubArea",
-                                     "frmTimeA",   "frmFlume",     "frmVerification"};
 
 // Builds the items of a menu array; indexes without a caption are separators.
 void addMenuItems(QMenu* menu, const QString& arrayName, int first, int last,
@@ -60,7 +58,7 @@ void setStandardKeys(QAction* action, QKeySequence::StandardKey key, const QKeyS
 } // namespace
 
 QString editorWindowName(int section) {
-    return section >= 1 && section <= 14 ? QString(EditorWindows[section]) : QString();
+    return fromBytes(sectionEditor(section));
 }
 
 frmMain::frmMain(AppContext& context, QWidget* parent) : QMainWindow(parent), context_(context) {
@@ -133,6 +131,14 @@ void frmMain::buildControls() {
     layout->addWidget(Frame2);
     Frame2->hide();
 
+    cmdCheckFindings = new QPushButton(this);
+    nameControl(cmdCheckFindings, "cmdCheckFindings", "Check Watershed findings");
+    cmdCheckFindings->setFlat(true);
+    cmdCheckFindings->hide();
+    statusBar()->addWidget(cmdCheckFindings);
+    connect(cmdCheckFindings, &QPushButton::clicked, this,
+            [this] { showCheckWindow(context_, passedFindings_); });
+
     connect(CurrentLst, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { openSection(CurrentLst->row(item) + 1); });
     CurrentLst->installEventFilter(this);
@@ -194,11 +200,21 @@ void frmMain::buildMenus() {
             ShowFileViewer(context_);
         });
 
+    // Tools stands between View and Run: Run itself runs the model, and Check Watershed must be
+    // at hand while Run is hidden by unsaved changes.
+    mnuTools = bar->addMenu("Tools");
+    mnuTools->setObjectName("mnuTools");
+    mnuCheckWatershed = mnuTools->addAction("Check Watershed");
+    mnuCheckWatershed->setObjectName("mnuCheckWatershed");
+    mnuCheckWatershed->setShortcut(Qt::Key_F7);
+    addAction(mnuCheckWatershed); // F7 works with the menu closed
+    connect(mnuCheckWatershed, &QAction::triggered, this, &frmMain::checkWatershed);
+
     spacer("mnuspace4");
     mnuRun = bar->addAction("Run");
     mnuRun->setObjectName("mnuRun");
     mnuRun->setShortcut(Qt::Key_F5);
-    connect(mnuRun, &QAction::triggered, this, [this] { RunModel(context_); });
+    connect(mnuRun, &QAction::triggered, this, &frmMain::runModel);
     mnuStop = bar->addAction("Stop");
     mnuStop->setObjectName("mnuStop");
     mnuStop->setVisible(false);
@@ -273,7 +289,36 @@ void frmMain::Form_Activate() {
         mnuRun->setVisible(false);
         mnuView->menuAction()->setVisible(false);
     }
+    updateToolsMenu();
     RefreshSectionList();
+}
+
+void frmMain::updateToolsMenu() {
+    // Save As is enabled from the first New, Open or ReOpen on: a file is open.
+    const bool fileOpen = fileItem(15)->isEnabled();
+    mnuTools->menuAction()->setVisible(fileOpen);
+    mnuCheckWatershed->setEnabled(fileOpen);
+}
+
+void frmMain::checkWatershed() {
+    if (!mnuCheckWatershed->isEnabled())
+        return;
+    showFindingsButton({});
+    showCheckWindow(context_, CheckSessionWatershed(context_));
+}
+
+void frmMain::runModel() {
+    const CommandCheck check = CheckBeforeCommand(context_, CheckedCommand::Run);
+    showFindingsButton(check.findings);
+    if (check.goOn)
+        RunModel(context_);
+}
+
+void frmMain::showFindingsButton(const Findings& findings) {
+    passedFindings_ = findings;
+    const bool warningsOnly = !findings.empty() && errorCount(findings) == 0;
+    cmdCheckFindings->setText(fromBytes("Check Watershed: " + findingsSummary(findings)));
+    cmdCheckFindings->setVisible(warningsOnly);
 }
 
 void frmMain::RefreshSectionList() {
@@ -316,11 +361,13 @@ void frmMain::fileCommand(int index) {
     case 6:
         beginFileCommand();
         ConvertOldData(context_, *this);
+        context_.session.WatershedChecked = false;
         endFileCommand();
         break;
     case 7:
         beginFileCommand();
         ImportHecRas(context_, *this);
+        context_.session.WatershedChecked = false;
         endFileCommand();
         break;
     case 10:
@@ -357,6 +404,7 @@ void frmMain::endFileCommand() {
     if (!context_.session.CurrentFile.empty())
         setCaptionToCurrentFile();
     Frame2->show();
+    updateToolsMenu();
 }
 
 void frmMain::setCaptionToCurrentFile() {
@@ -412,6 +460,7 @@ void frmMain::openExistingFile() {
         session.CurrentFile = *chosen;
         session.OutputPath = BaseName(session.CurrentFile) + "out";
         if (LoadInputFile(context_)) {
+            session.WatershedChecked = false;
             fileItem(14)->setEnabled(true);
             fileItem(15)->setEnabled(true);
             session.DataChanged = false;
@@ -441,6 +490,7 @@ void frmMain::reopenLastSession() {
     }
     fileItem(15)->setEnabled(true);
     session.DataChanged = false;
+    session.WatershedChecked = false;
     context_.windows.ShowWindowAtOrigin("frmFlume");
     endFileCommand();
 }
@@ -461,6 +511,12 @@ void frmMain::saveFile() {
 
 void frmMain::saveFileAs() {
     beginFileCommand();
+    const CommandCheck check = CheckBeforeCommand(context_, CheckedCommand::SaveAs);
+    showFindingsButton(check.findings);
+    if (!check.goOn) {
+        endFileCommand();
+        return;
+    }
     dialog_.DialogTitle = "Save Brooklet file";
     SaveInputFileAs();
     // A session still without a file (the dialog was cancelled) has nothing to run or view.
@@ -605,6 +661,8 @@ void frmMain::PromptBeforeLoading(std::string& OldName, const std::string& Promp
 void frmMain::CloseInputFile() {
     context_.windows.closeSessionWindows();
     context_.session.CurrentFile = UntitledFile;
+    context_.session.WatershedChecked = false;
+    showFindingsButton({});
     fileItem(14)->setEnabled(false);
     fileItem(15)->setEnabled(true);
     ClearWorkFiles(context_.session);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "check/findings.h"
 #include "editing/widgets.h"
 #include "session/platform.h"
 
@@ -58,6 +59,8 @@ public:
 
     // The File menu's commands by item index.
     void fileCommand(int index);
+    // Tools, "Check Watershed" (F7): the whole input checked, the findings listed in frmCheck.
+    void checkWatershed();
 
 protected:
     bool event(QEvent* event) override;
@@ -78,6 +81,13 @@ private:
     void openSection(int section);
     void setCaptionToCurrentFile();
     QAction* fileItem(int index) const { return fileItems_(index); }
+    // Run: the model, after the check of a session not yet checked.
+    void runModel();
+    // Tools shows while a file is open, named or untitled after New.
+    void updateToolsMenu();
+    // The warnings a check before Run or Save As let pass stay one click away in the status
+    // bar; nothing shows after a check without them.
+    void showFindingsButton(const Findings& findings);
 
     AppContext& context_;
     FileDialogSettings dialog_;
@@ -96,6 +106,10 @@ private:
     QAction* mnuRun = nullptr;
     QAction* mnuPlots = nullptr;
     QAction* mnuStop = nullptr; // shown while an external program runs
+    QMenu* mnuTools = nullptr;
+    QAction* mnuCheckWatershed = nullptr;
+    QPushButton* cmdCheckFindings = nullptr;
+    Findings passedFindings_; // the warnings of the last check before Run or Save As
     // The commands that change the session or start a program: disabled while a program runs.
     QActionGroup* sessionCommands_ = nullptr;
     ControlArray<QAction> fileItems_;

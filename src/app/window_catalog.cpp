@@ -1,5 +1,7 @@
 #include "app/window_catalog.h"
 
+#include "app/check_command.h"
+#include "check/check_window.h"
 #include "editing/help_windows.h"
 #include "network/land_use_window.h"
 #include "network/local_land_use_editor.h"
@@ -61,6 +63,9 @@ void registerAllWindows(WindowHost& windows) {
     windows.registerWindow("frmDimHyd", [](AppContext& context) { return new frmDimHyd(context); });
     windows.registerWindow("frmAlternate", [](AppContext& context) { return new frmAlternate(context); });
     windows.registerWindow("frmTopoModel", [](AppContext& context) { return new frmTopoModel(context); });
+    windows.registerWindow("frmCheck", [](AppContext& context) {
+        return new frmCheck(context, [&context] { return CheckSessionWatershed(context); });
+    });
     windows.registerWindow("frmGraphicsOutput",
                            [](AppContext& context) { return new frmGraphicsOutput(context); });
 }

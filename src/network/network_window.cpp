@@ -252,6 +252,16 @@ void NetworkWindow::clearBox(int index) {
     setBackground(txtInp(index), UntouchedColour);
 }
 
+bool NetworkWindow::showEntry(const std::string& entry, int box) {
+    // A window working on an alternate holds that alternate's rows, not the section's.
+    if (alternateMode() || entryRow(entry) == 0)
+        return false;
+    cmbInp(1)->setEditText(fromBytes(entry));
+    leaveList(1);
+    focusBox(box);
+    return true;
+}
+
 void NetworkWindow::focusBox(int index) {
     if (QComboBox* list = cmbInp(index))
         list->setFocus(Qt::OtherFocusReason);

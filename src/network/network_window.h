@@ -34,6 +34,10 @@ public:
     // Leaving list Index: its text goes to the shadow box and the window does what the name
     // asks for. False when the field check refused the text.
     virtual bool leaveList(int index) = 0;
+    // The row of the named entry is shown as if chosen in list 1, and box Box takes the focus.
+    // Only an entry the window has: a name it has not is not made a new row, and a window
+    // working on an alternate shows no row of the section.
+    bool showEntry(const std::string& entry, int box) override;
 
     // The window works on an alternate of the alternate store.
     bool alternateMode() const;
@@ -99,6 +103,8 @@ protected:
 
     // The list that an option button hands the focus to.
     virtual int optionFocusBox() const = 0;
+    // The row that choosing Name in list 1 shows; 0 when it names no row.
+    virtual int entryRow(const std::string&) const { return 0; }
     // Gives box Index the focus, or its list.
     void focusBox(int index) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -38,6 +38,7 @@ protected:
     bool checkBox(int index) override;
     int nextBox(int index) const override;
     int optionFocusBox() const override { return 14; }
+    int entryRow(const std::string& name) const override { return findRow(name); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -44,6 +44,7 @@ protected:
     // On an alternate, what the calculators gave back waits in the tables for this window's
     // Accept, so it counts as a change too.
     QStringList editState() const override;
+    int entryRow(const std::string& name) const override { return findRow(name); }
 
 private:
     void buildControls();

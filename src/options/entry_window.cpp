@@ -385,6 +385,11 @@ void EntryWindow::showHelp(int index) {
         ShowHelpItem(session, index, txtHelp, code);
 }
 
+bool EntryWindow::showEntry(const std::string&, int box) {
+    focusBox(box);
+    return true;
+}
+
 void EntryWindow::focusBox(int index) {
     if (QLineEdit* box = txtInp(index))
         box->setFocus(Qt::OtherFocusReason);

@@ -77,6 +77,11 @@ public:
     // "Accept Changes", as a click on it does; true when the window has closed.
     bool keepTyping() override;
 
+    // Shows the entry named Entry (a window of one entry is that entry) and gives box Box the
+    // focus, as a finding of Check Watershed asks. False when the window has no such entry:
+    // then nothing is shown and nothing new is made.
+    virtual bool showEntry(const std::string& entry, int box);
+
 protected:
     EntryWindow(AppContext& context, EntryDesign design, QWidget* parent = nullptr);
 

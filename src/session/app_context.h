@@ -21,6 +21,9 @@ struct AppContext {
     int CurrentAlternate = 0;
     // True while an external program runs and has not been told to stop.
     bool ProgramRunning = false;
+    // Whether Run and Save As first check a session that has not been checked yet. Window tests
+    // of other subjects turn it off, so their boxes stay theirs.
+    bool CheckBeforeRunAndSaveAs = true;
     WatershedTables watershed; // sub-area, land use, rain gage and alternate tables
     PlotData plots;            // the plot request and arrays handed to the plot window
 };

@@ -76,6 +76,15 @@ const std::string& workFileName(int number) {
     return WorkFileNames.at(static_cast<size_t>(number));
 }
 
+const std::string& sectionEditor(int section) {
+    static const std::array<std::string, 16> editors = {
+        "",           "frmAlternate", "frmDimHyd",       "frmDurInc",
+        "frmGlobal",  "frmInpHyd",    "frmRainDist",     "frmXsect",
+        "frmReaches", "frmStorm",     "frmStruct",       "frmSubArea",
+        "frmTimeA",   "frmFlume",     "frmVerification", ""};
+    return editors.at(section >= 0 && section <= 15 ? static_cast<size_t>(section) : 15);
+}
+
 std::optional<BoxRequest> StartSession(Session& session, const std::string& startFolder) {
     session.EditorTitle = "Brooklet Editor 2001";
     session.ToolName.clear();

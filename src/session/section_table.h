@@ -45,6 +45,8 @@ inline const std::string SystemBoxTitle = "Brooklet System";
 const std::string& sectionHeader(int section);
 // The work file names, index 1 to 16, without folder.
 const std::string& workFileName(int number);
+// The editor window of each listed section, by section number 1 to 14; empty for others.
+const std::string& sectionEditor(int section);
 
 // The unit words, set by the identifier editor from its input and output unit choices and read
 // by every window and plot. English and metric differ in words only: what the user typed is
@@ -90,6 +92,9 @@ struct Session {
     std::array<std::string, WorkFileCount + 1> WorkFilePath;           // 1..16
     std::array<std::string, ResultExtensionCount + 1> ResultExtension; // 1..8
 
+    // True once Check Watershed has run in this session; a new session (New, Open, ReOpen,
+    // Convert, Import) begins unchecked.
+    bool WatershedChecked = false;
     std::string LocalLandUseFile;
     std::string LocalSoilFile;
     std::string HelpListFile;

@@ -149,6 +149,15 @@ void frmAlternate::storeStep() {
     previous_ = short(current_);
 }
 
+bool frmAlternate::showEntry(const std::string& entry, int box) {
+    if (trim(entry).empty() || findAlternate(tables, trim(entry)) == 0)
+        return false;
+    cmbInp1->setEditText(fromBytes(entry));
+    leaveIdentifier();
+    focusBox(box);
+    return true;
+}
+
 void frmAlternate::leaveIdentifier() {
     // An identifier is at most ten characters; a longer text is cut as it leaves the box.
     const QString text = cmbInp1->currentText().left(IdentifierWidth);

@@ -30,6 +30,9 @@ public:
 
     // Leaving cmbInp(1): the alternate named there is shown, or made when it is new.
     void leaveIdentifier();
+    // The named alternate is shown as if chosen in the combo box, and box Box takes the focus;
+    // a name the section has not is not made a new alternate.
+    bool showEntry(const std::string& entry, int box) override;
     // cmdDelCur.
     void deleteCurrent();
     // A left click in list Kind on the entry named Text (empty: below the entries).

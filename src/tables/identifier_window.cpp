@@ -133,6 +133,16 @@ void IdentifierWindow::leaveIdentifier() {
     updatePlotButton();
 }
 
+bool IdentifierWindow::showEntry(const std::string& entry, int box) {
+    // A blank name finds a deleted slot: no entry to show.
+    if (trim(entry).empty() || findTable(tabular, entry) == 0)
+        return false;
+    cmbInp(1)->setEditText(fromBytes(entry));
+    leaveIdentifier();
+    focusBox(box);
+    return true;
+}
+
 void IdentifierWindow::displayData() {
     if (tabular.TableNext == 0) {
         context.platform.showBox({"None Selected", DefaultBoxTitle, BoxButtons::Ok, BoxIcon::None});

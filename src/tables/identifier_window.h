@@ -59,6 +59,9 @@ public:
     // cmdDelCur: after the question, the entry leaves the list and the store, its slot stays
     // empty in the identifier table.
     void deleteCurrent();
+    // The named entry is shown as if chosen in the combo box, and box Box takes the focus; a
+    // name the table has not is not made a new entry.
+    bool showEntry(const std::string& entry, int box) override;
 
 protected:
     IdentifierWindow(AppContext& context, EntryDesign design, TabularDesign tabularDesign,

@@ -381,6 +381,23 @@ void frmStorm::optionPressed(int k) {
     applyBox(RunoffBox);
 }
 
+bool frmStorm::showEntry(const std::string& entry, int box) {
+    const size_t bar = entry.find('|');
+    if (bar == std::string::npos)
+        return false;
+    const std::string storm = toUpper(trim(entry.substr(0, bar)));
+    const std::string gage = toUpper(trim(entry.substr(bar + 1)));
+    const std::vector<StormRecord> rows = gridRows();
+    for (size_t row = 0; row < rows.size(); ++row) {
+        if (toUpper(trim(rows[row][0])) != storm || toUpper(trim(rows[row][1])) != gage)
+            continue;
+        pickRow(static_cast<int>(row) + 1);
+        focusBox(box);
+        return true;
+    }
+    return false;
+}
+
 void frmStorm::pickRow(int row) {
     GridContext& g = tabular;
     g.GridRow = row;

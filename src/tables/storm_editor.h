@@ -35,6 +35,9 @@ public:
     // The grid's clipboard commands.
     void copyRows();
     void pasteRows();
+    // Entry is "storm|gage": the row of that storm and rain gage is shown, as a click on it
+    // shows it, and box Box takes the focus.
+    bool showEntry(const std::string& entry, int box) override;
 
 protected:
     void setDefaults() override;

@@ -139,8 +139,8 @@ TEST_F(MainWindowTest, MenusCarryTheirCaptionsAtTheirIndexes) {
     QStringList bar;
     for (QAction* action : main->menuBar()->actions())
         bar << action->text().trimmed();
-    // "Stop" shows only while a program runs.
-    EXPECT_EQ(bar, (QStringList{"File", "", "View", "", "Run", "Stop", "Plots", "", "Help"}));
+    // "Stop" shows only while a program runs; Tools while a file is open.
+    EXPECT_EQ(bar, (QStringList{"File", "", "View", "Tools", "", "Run", "Stop", "Plots", "", "Help"}));
     EXPECT_FALSE(control<QAction>(main, "mnuStop")->isVisible());
     for (const char* spacer : {"mnuSpace1", "mnuspace4", "mnuspace5"})
         EXPECT_TRUE(control<QMenu>(main, spacer)->actions().isEmpty()) << spacer;

@@ -24,6 +24,8 @@ UiTest::~UiTest() {
 }
 
 frmMain& UiTest::startMain() {
+    // The check before Run and Save As asks its own question; its tests turn it back on.
+    context->CheckBeforeRunAndSaveAs = false;
     main = new frmMain(*context);
     main->show();
     return *main;
