@@ -43,7 +43,7 @@ void frmLandUse::buildControls() {
     addHeader("Land Use Areas:");
     addAlternateLabels();
     addRow(addLabel(1, "Sub-Area Identifier"), {addList(1, "Sub-Area Identifier")});
-    QLineEdit* area = addBox(AreaBox, "Land Use Area Drainage Area");
+    QLineEdit* area = addBox(AreaBox, "Land Use Area Drainage Area", 0);
     area->setReadOnly(true);
     area->setFocusPolicy(Qt::ClickFocus);
     addRow(addLabel(AreaBox, "Land Use Area Drainage Area"), {area}, addUnitLabel(AreaBox));
@@ -252,6 +252,8 @@ std::vector<std::string> frmLandUse::sectionRecords() {
 }
 
 void frmLandUse::acceptChanges() {
+    if (!boxesFitTheirFields())
+        return;
     work.WorkRow = short(Selected);
     storeGrid();
     if (ReturnLandUseWork(work, tables) && !alternateMode())

@@ -31,7 +31,7 @@ void frmLocalLanduse::buildControls() {
     addRow(addLabel(NameBox, name), {addList(name)});
     for (int index = 2; index <= LastCurveNumberBox; ++index) {
         const QString caption = QString("Curve Number \"%1\"").arg(QChar('A' + index - 2));
-        QLineEdit* box = addBox(index, caption);
+        QLineEdit* box = addBox(index, caption, SectionValueWidth);
         box->setMaximumWidth(90);
         addRow(addLabel(index, caption), {box});
     }

@@ -306,6 +306,8 @@ std::vector<std::string> frmReaches::sectionRecords() {
 }
 
 void frmReaches::acceptChanges() {
+    if (!boxesFitTheirFields())
+        return;
     storeBoxes();
     if (!alternateMode()) {
         EntryWindow::acceptChanges();

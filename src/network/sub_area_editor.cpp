@@ -245,6 +245,8 @@ std::vector<std::string> frmSubArea::sectionRecords() {
 }
 
 void frmSubArea::acceptChanges() {
+    if (!boxesFitTheirFields())
+        return;
     storeBoxes();
     if (!alternateMode()) {
         EntryWindow::acceptChanges();
