@@ -43,6 +43,14 @@ constexpr int NoLimit = 32767;
 void fitToField(QLineEdit* box, int width) {
     box->setProperty(FieldWidthProperty, width > 0 ? width : 0);
     box->setMaxLength(width > 0 ? width : NoLimit);
+    if (width <= 0)
+        return;
+    // A box widened for a text that was not typed narrows again once the user's editing has
+    // brought the text within the field.
+    QObject::connect(box, &QLineEdit::textEdited, box, [box, width](const QString& text) {
+        if (box->maxLength() > width && text.size() <= width)
+            box->setMaxLength(width);
+    });
 }
 
 int fieldWidthOf(const QLineEdit* box) {
@@ -56,8 +64,8 @@ bool fitsItsField(const QLineEdit* box) {
 
 bool setTextUncut(QLineEdit* box, const QString& text) {
     const int width = fieldWidthOf(box);
-    // The limit follows the text, so the box never cuts what was calculated, and goes back to
-    // the field's width once the text fits again.
+    // The limit follows the text, so the box never cuts what was not typed, and stays the
+    // field's width for a text that fits.
     box->setMaxLength(width > 0 ? std::max<int>(width, text.size()) : NoLimit);
     box->setText(text);
     return fitsItsField(box);
