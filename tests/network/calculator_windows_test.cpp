@@ -308,6 +308,27 @@ TEST_F(CalculatorWindowsTest, LandUseShowsItsControlsAndTheRowsCellsWithTheSums)
     EXPECT_EQ(sum(28), "62");
 }
 
+TEST_F(CalculatorWindowsTest, ALocalLandUseNameWiderThanItsColumnsIsNeverWrittenShifted) {
+    const std::string name = "Meadow on the north slope by the creek";
+    writeBytes(session().LocalLandUseFile, "\"" + name + "\",\"70\",\"80\",\"85\",\"90\"\r\n\"\"\r\n");
+    ASSERT_NE(openCalculator(0, "A2"), nullptr);
+    const std::string before = workFileBytes();
+    const int row = gridRowOf(QString::fromStdString(name));
+    ASSERT_GT(row, 0);
+    pressCell(row, 1);
+    QTest::keyClicks(grid(), "2");
+    click(tcButton("cmdFinished"));
+    // The name would push the soil group and the area out of their columns: nothing is written.
+    EXPECT_FALSE(calculatorClosed("frmLandUse"));
+    EXPECT_EQ(workFileBytes(), before);
+    const auto* help = control<QPlainTextEdit>(calculator, "txtHelp");
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->toPlainText().toStdString(),
+              "The value " + name +
+                  " is 38 characters long, but its field in the record holds only 35; nothing is "
+                  "written until it is shortened.");
+}
+
 TEST_F(CalculatorWindowsTest, TheSoilDisplayButtonShowsWhenTheSoilFileOpens) {
     folder.copyTestData("Local_Soil_HSG.txt", "Local_Soil_HSG.txt");
     ASSERT_NE(openCalculator(0, "A2"), nullptr);
