@@ -51,7 +51,8 @@ void frmLocalLanduse::Form_Load() {
 
 void frmLocalLanduse::showRow(int row) {
     for (int index = NameBox; index <= LastCurveNumberBox; ++index) {
-        txtInp(index)->setText(fromBytes(Table.Rows(index, row)));
+        // A value of the file wider than its box is shown whole, never cut on the way.
+        setTextUncut(txtInp(index), fromBytes(Table.Rows(index, row)));
         setBackground(txtInp(index), UntouchedColour);
     }
     listCopiesShadow();
