@@ -84,12 +84,54 @@ void ValidRealRange(bool AllowBlank, double Min, double Max, const std::string& 
         Valid = false;
 }
 
-void AppendField(std::string& Record, const std::string& Value, int Width, bool AddPoint) {
+namespace {
+
+// The innermost watch of this thread, none when nobody listens.
+thread_local FieldFitWatch* activeWatch = nullptr;
+
+} // namespace
+
+FieldFitWatch::FieldFitWatch() : outer_(activeWatch) {
+    activeWatch = this;
+}
+
+FieldFitWatch::~FieldFitWatch() {
+    activeWatch = outer_;
+}
+
+void FieldFitWatch::noteOverflow(const std::string& Value, int Width) {
+    FieldFitWatch* watch = activeWatch;
+    if (!watch)
+        return;
+    if (watch->overflows_++ == 0) {
+        watch->firstValue_ = Value;
+        watch->firstWidth_ = Width;
+    }
+}
+
+bool AppendField(std::string& Record, const std::string& Value, int Width, bool AddPoint) {
     std::string text = Value;
     if (AddPoint)
         EnsureDecimalPoint(text, Width);
+    const bool fits = static_cast<int>(text.size()) <= Width;
+    if (!fits)
+        FieldFitWatch::noteOverflow(text, Width);
     PadField(Width, text);
     Record += text;
+    return fits;
+}
+
+bool FieldFits(const std::string& Value, int Width, bool AddPoint) {
+    std::string text = Value;
+    if (AddPoint)
+        EnsureDecimalPoint(text, Width);
+    return static_cast<int>(text.size()) <= Width;
+}
+
+std::string FieldTooLongNote(const std::string& Value, int Width) {
+    return "The value " + trim(Value) + " is " + std::to_string(Value.size()) +
+           " characters long, but its field in the record holds only " + std::to_string(Width) +
+           "; nothing is written until it is shortened.";
 }
 
 void EnsureDecimalPoint(std::string& Text, int Width) {

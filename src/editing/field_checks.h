@@ -17,8 +17,40 @@ void ValidNumber(bool AllowBlank, const std::string& Text, bool& Valid);
 void ValidRealRange(bool AllowBlank, double Min, double Max, const std::string& Text, bool& Valid);
 
 // Appends Value, left-justified and blank-padded to Width, to Record; with AddPoint a number
-// gets its trailing point when the field has room. A value wider than the field is not cut.
-void AppendField(std::string& Record, const std::string& Value, int Width, bool AddPoint);
+// gets its trailing point when the field has room. A value wider than the field is not cut: it
+// shifts every later column of the record, so the result tells whether the value fit, and a
+// FieldFitWatch hears of every value that did not.
+bool AppendField(std::string& Record, const std::string& Value, int Width, bool AddPoint);
+// Whether Value, placed as AppendField places it, stays within Width columns.
+bool FieldFits(const std::string& Value, int Width, bool AddPoint);
+// What a window says of a value wider than its field.
+std::string FieldTooLongNote(const std::string& Value, int Width);
+
+// While it lives, notes the values that AppendField on this thread could not fit, so that a
+// caller that has a whole section built by its codec learns of a shifted record before it
+// writes one. Watches nest: the innermost hears.
+class FieldFitWatch {
+public:
+    FieldFitWatch();
+    ~FieldFitWatch();
+    FieldFitWatch(const FieldFitWatch&) = delete;
+    FieldFitWatch& operator=(const FieldFitWatch&) = delete;
+
+    bool allFit() const { return overflows_ == 0; }
+    int overflows() const { return overflows_; }
+    // The first value that did not fit, and the width of its field.
+    const std::string& firstValue() const { return firstValue_; }
+    int firstWidth() const { return firstWidth_; }
+
+    // Called by AppendField.
+    static void noteOverflow(const std::string& Value, int Width);
+
+private:
+    FieldFitWatch* outer_;
+    int overflows_ = 0;
+    std::string firstValue_;
+    int firstWidth_ = 0;
+};
 void EnsureDecimalPoint(std::string& Text, int Width);
 void PadField(int Width, std::string& Text);
 

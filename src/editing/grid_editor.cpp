@@ -169,6 +169,8 @@ void HandleGridKey(GridContext& context, int& Key, GridControl& Grid, int& Row, 
     if (Key == PointKey || (Key >= FirstDigitKey && Key <= LastDigitKey)) {
         const std::string typed(1, static_cast<char>(Key));
         if (Typing) {
+            if (static_cast<int>(trim(Grid.Text()).size()) >= context.GridCellWidth)
+                return;
             Grid.setText(Grid.Text() + typed);
         } else {
             // The first key typed in a cell overwrites it.
@@ -263,6 +265,8 @@ void CheckGridCell(GridContext& context, GridControl& Grid, int Row, int Col, in
                     Valid = false;
             }
         }
+        if (!FieldFits(text, context.GridCellWidth, true))
+            Valid = false;
     }
     moveCurrentCell(Grid, Row, Col);
     if (!Valid)

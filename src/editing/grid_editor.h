@@ -54,6 +54,9 @@ struct GridContext {
     float GridHighLimit = 0.0f;
     // Rows the grid shows at a time, for scrolling.
     int GridVisibleRows = 9;
+    // Flow grid: the columns of a value's field in the record. A key that would make the cell
+    // longer is not taken, and a longer (pasted) value is refused like a bad number.
+    int GridCellWidth = 10;
     // Set when a key moved the cursor on to a new row.
     bool GridGrew = false;
 

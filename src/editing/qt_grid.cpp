@@ -149,8 +149,9 @@ bool GridKeyFeeder::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void QtBoxes::setBoxText(int index, const std::string& text) {
+    // A cell's text is shown whole, even where it is wider than the box's field.
     if (QLineEdit* box = boxes_(index))
-        box->setText(fromBytes(text));
+        setTextUncut(box, fromBytes(text));
 }
 
 void QtBoxes::setBoxColour(int index, Rgb colour) {

@@ -6,8 +6,11 @@
 #include <QFile>
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace brooklet {
 
@@ -26,6 +29,46 @@ void nameControl(QObject* control, const QString& name, const QString& accessibl
     control->setObjectName(name);
     if (auto* widget = qobject_cast<QWidget*>(control); widget && !accessibleName.isEmpty())
         widget->setAccessibleName(accessibleName.trimmed());
+}
+
+namespace {
+
+// The property that keeps a box's field width, since a calculated text may widen its limit.
+const char* const FieldWidthProperty = "fieldWidth";
+// A box's limit when it fills no field: Qt's own default.
+constexpr int NoLimit = 32767;
+
+} // namespace
+
+void fitToField(QLineEdit* box, int width) {
+    box->setProperty(FieldWidthProperty, width > 0 ? width : 0);
+    box->setMaxLength(width > 0 ? width : NoLimit);
+    if (width <= 0)
+        return;
+    // A box widened for a text that was not typed narrows again once the user's editing has
+    // brought the text within the field.
+    QObject::connect(box, &QLineEdit::textEdited, box, [box, width](const QString& text) {
+        if (box->maxLength() > width && text.size() <= width)
+            box->setMaxLength(width);
+    });
+}
+
+int fieldWidthOf(const QLineEdit* box) {
+    return box->property(FieldWidthProperty).toInt();
+}
+
+bool fitsItsField(const QLineEdit* box) {
+    const int width = fieldWidthOf(box);
+    return width <= 0 || box->text().trimmed().size() <= width;
+}
+
+bool setTextUncut(QLineEdit* box, const QString& text) {
+    const int width = fieldWidthOf(box);
+    // The limit follows the text, so the box never cuts what was not typed, and stays the
+    // field's width for a text that fits.
+    box->setMaxLength(width > 0 ? std::max<int>(width, text.size()) : NoLimit);
+    box->setText(text);
+    return fitsItsField(box);
 }
 
 QColor toQColor(Rgb colour) {

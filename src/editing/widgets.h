@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QFocusEvent;
+class QLineEdit;
 
 #include <map>
 #include <string>
@@ -43,6 +44,21 @@ Rgb background(const QWidget* control);
 inline bool leavesTheField(Qt::FocusReason reason) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
 }
+
+// The columns of most fields of a record: every identifier and every number.
+constexpr int StandardFieldWidth = 10;
+
+// A box whose text goes into a record field of Width columns takes no more characters than the
+// field holds, typed or pasted; a Width of 0 or less leaves the box without a limit.
+void fitToField(QLineEdit* box, int width);
+// The columns of the field the box fills; 0 when it fills none.
+int fieldWidthOf(const QLineEdit* box);
+// Whether the trimmed text of the box fits its field.
+bool fitsItsField(const QLineEdit* box);
+// Puts a text that was not typed (calculated, or read from a table) into a box. A text wider
+// than the box's field is not cut: the box shows it whole, and the result is false, so that
+// the caller paints it red and says why.
+bool setTextUncut(QLineEdit* box, const QString& text);
 
 // Screen pixels of a width given in twips, at 96 dots an inch.
 constexpr int twips(int width) {

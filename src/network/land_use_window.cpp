@@ -44,7 +44,7 @@ void frmLandUse::buildControls() {
     addHeader("Land Use Areas:");
     addAlternateLabels();
     addRow(addLabel(1, "Sub-Area Identifier"), {addList(1, "Sub-Area Identifier")});
-    QLineEdit* area = addBox(AreaBox, "Land Use Area Drainage Area");
+    QLineEdit* area = addBox(AreaBox, "Land Use Area Drainage Area", 0);
     area->setReadOnly(true);
     area->setFocusPolicy(Qt::ClickFocus);
     addRow(addLabel(AreaBox, "Land Use Area Drainage Area"), {area}, addUnitLabel(AreaBox));
@@ -263,6 +263,8 @@ void frmLandUse::acceptChanges() {
         closeForClosedOwner();
         return;
     }
+    if (!boxesFitTheirFields())
+        return;
     work.WorkRow = short(Selected);
     storeGrid();
     if (Selected > 0 && size_t(Selected) < work.RowIds.size() &&

@@ -14,7 +14,6 @@ namespace brooklet {
 namespace {
 
 constexpr int SectionNameWidth = 50;
-constexpr int SectionValueWidth = 5;
 // A row is kept on Accept when one of its curve numbers reaches this.
 constexpr double SmallestKeptCurveNumber = 30.0;
 

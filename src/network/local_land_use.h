@@ -14,6 +14,9 @@
 
 namespace brooklet {
 
+// The columns of a curve number in the section "LOCAL LAND USE:".
+constexpr int SectionValueWidth = 5;
+
 struct Session;
 
 // A land use of the local file: the name and four further texts, the curve numbers of the

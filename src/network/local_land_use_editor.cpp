@@ -31,7 +31,7 @@ void frmLocalLanduse::buildControls() {
     addRow(addLabel(NameBox, name), {addList(name)});
     for (int index = 2; index <= LastCurveNumberBox; ++index) {
         const QString caption = QString("Curve Number \"%1\"").arg(QChar('A' + index - 2));
-        QLineEdit* box = addBox(index, caption);
+        QLineEdit* box = addBox(index, caption, SectionValueWidth);
         box->setMaximumWidth(90);
         addRow(addLabel(index, caption), {box});
     }
@@ -51,7 +51,8 @@ void frmLocalLanduse::Form_Load() {
 
 void frmLocalLanduse::showRow(int row) {
     for (int index = NameBox; index <= LastCurveNumberBox; ++index) {
-        txtInp(index)->setText(fromBytes(Table.Rows(index, row)));
+        // A value of the file wider than its box is shown whole, never cut on the way.
+        setTextUncut(txtInp(index), fromBytes(Table.Rows(index, row)));
         setBackground(txtInp(index), UntouchedColour);
     }
     listCopiesShadow();

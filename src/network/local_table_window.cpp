@@ -33,7 +33,7 @@ QComboBox* LocalTableWindow::addList(const QString& accessibleName) {
     list->installEventFilter(this);
     cmbInp.add(1, list);
     // The shadow box holds the name the boxes belong to; it is never shown.
-    addBox(1, accessibleName)->hide();
+    addBox(1, accessibleName, 0)->hide();
     return list;
 }
 

@@ -106,7 +106,7 @@ QComboBox* NetworkWindow::addList(int index, const QString& accessibleName) {
     list->installEventFilter(this);
     cmbInp.add(index, list);
     // The shadow box holds the text and colour of the field; it is never shown.
-    addBox(index, accessibleName.simplified())->hide();
+    addBox(index, accessibleName.simplified(), 0)->hide();
     return list;
 }
 
@@ -244,7 +244,7 @@ bool NetworkWindow::boxBlank(int index) const {
 }
 
 void NetworkWindow::setBoxText(int index, const std::string& text) {
-    txtInp(index)->setText(fromBytes(text));
+    setTextUncut(txtInp(index), fromBytes(text));
 }
 
 void NetworkWindow::clearBox(int index) {

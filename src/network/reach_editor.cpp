@@ -315,6 +315,8 @@ void frmReaches::acceptChanges() {
         closeForClosedOwner();
         return;
     }
+    if (!boxesFitTheirFields())
+        return;
     storeBoxes();
     if (!alternateMode()) {
         EntryWindow::acceptChanges();

@@ -263,6 +263,8 @@ void frmSubArea::acceptChanges() {
         closeForClosedOwner();
         return;
     }
+    if (!boxesFitTheirFields())
+        return;
     // The calculators give back what they hold before the rows are written.
     if (!closeChildren())
         return;

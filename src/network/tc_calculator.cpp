@@ -1,5 +1,6 @@
 #include "network/tc_calculator.h"
 
+#include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "editing/watershed_tables.h"
 #include "network/sub_area.h"
@@ -42,8 +43,8 @@ void frmTc::buildControls() {
     addHeader("Time of Concentration:");
     addAlternateLabels();
     addRow(addLabel(1, "Sub-Area Identifier"), {addList(1, "Sub-Area Identifier")});
-    QLineEdit* rainfall = addBox(RainfallBox, "2-Yr Rainfall");
-    QLineEdit* spare = addBox(SpareBox, "2-Yr Rainfall spare");
+    QLineEdit* rainfall = addBox(RainfallBox, "2-Yr Rainfall", 0);
+    QLineEdit* spare = addBox(SpareBox, "2-Yr Rainfall spare", 0);
     for (QLineEdit* display : {rainfall, spare}) {
         display->setReadOnly(true);
         display->setFocusPolicy(Qt::ClickFocus);
@@ -68,8 +69,9 @@ void frmTc::buildControls() {
         box->setFixedWidth(80);
         return box;
     };
+    // Calculated displays fill no field; the channel velocity, calculated or typed, does.
     const auto displayBox = [this](int index, const QString& name) {
-        QLineEdit* box = addBox(index, name);
+        QLineEdit* box = addBox(index, name, 0);
         box->setReadOnly(true);
         box->setFocusPolicy(Qt::ClickFocus);
         box->setFixedWidth(80);
@@ -198,9 +200,15 @@ void frmTc::compute(int index) {
         if (box < TcBoxCount)
             boxes[size_t(box)] = toBytes(control->text());
     ComputeTcSegment(boxes, index);
-    for (int box = LastSegmentBox; box <= TotalTimeBox; ++box)
-        if (boxText(box) != boxes[size_t(box)])
-            setBoxText(box, boxes[size_t(box)]);
+    for (int box = LastSegmentBox; box <= TotalTimeBox; ++box) {
+        if (boxText(box) == boxes[size_t(box)])
+            continue;
+        // A calculated velocity wider than its field is shown whole, red, with the reason.
+        if (!setTextUncut(txtInp(box), fromBytes(boxes[size_t(box)]))) {
+            paintBox(box, false);
+            showNote(FieldTooLongNote(trim(boxes[size_t(box)]), fieldWidthOf(txtInp(box))));
+        }
+    }
 }
 
 int frmTc::subAreaRow(int row) const {
@@ -308,6 +316,8 @@ void frmTc::acceptChanges() {
         closeForClosedOwner();
         return;
     }
+    if (!boxesFitTheirFields())
+        return;
     storeBoxes();
     if (Selected > 0 && subAreaRow(Selected) == 0)
         tellSubAreaDeleted(TcTable(1, Selected));

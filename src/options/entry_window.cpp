@@ -1,5 +1,6 @@
 #include "options/entry_window.h"
 
+#include "editing/field_checks.h"
 #include "editing/help_box.h"
 #include "editing/text_table.h"
 #include "session/app_context.h"
@@ -98,12 +99,23 @@ void EntryWindow::Form_Load() {
 }
 
 void EntryWindow::acceptChanges() {
+    if (!boxesFitTheirFields())
+        return;
     // What the children hold goes into this window's data first, or the Accept waits.
     if (!closeChildren())
         return;
     Accepting = true;
     const std::string& path = session.WorkFilePath[design_.Section];
-    const WriteResult written = writeLines(path, sectionRecords());
+    FieldFitWatch watch;
+    const std::vector<std::string> records = sectionRecords();
+    if (!watch.allFit()) {
+        // A value wider than its field would shift every later column of its record, and the
+        // model would read wrong data: the work file stays as it was, the window stays open.
+        showNote(FieldTooLongNote(watch.firstValue(), watch.firstWidth()));
+        Accepting = false;
+        return;
+    }
+    const WriteResult written = writeLines(path, records);
     if (!written.ok) {
         // The work file stays as it was, and so does the window, so nothing typed is lost.
         context.platform.showBox({"The work file " + path + " could not be written (" + written.error +
@@ -294,9 +306,10 @@ HelpLabel* EntryWindow::addLabel(int index, const QString& caption) {
     return label;
 }
 
-QLineEdit* EntryWindow::addBox(int index, const QString& accessibleName) {
+QLineEdit* EntryWindow::addBox(int index, const QString& accessibleName, int fieldWidth) {
     auto* box = new QLineEdit(this);
     nameControl(box, indexedName("txtInp", index), accessibleName);
+    fitToField(box, fieldWidth);
     setBackground(box, UntouchedColour);
     box->installEventFilter(this);
     txtInp.add(index, box);
@@ -387,6 +400,25 @@ void EntryWindow::showHelp(int index) {
 
 bool EntryWindow::showEntry(const std::string&, int box) {
     focusBox(box);
+    return true;
+}
+
+void EntryWindow::showNote(const std::string& note) {
+    session.HelpShown = NoHelpShown;
+    txtHelp->setPlainText(fromBytes(note));
+    txtHelp->show();
+}
+
+bool EntryWindow::boxesFitTheirFields() {
+    for (const auto& [index, box] : txtInp.all()) {
+        if (fitsItsField(box))
+            continue;
+        paintBox(index, false);
+        showNote(FieldTooLongNote(toBytes(box->text().trimmed()), fieldWidthOf(box)));
+        if (box->isVisible())
+            box->setFocus(Qt::OtherFocusReason);
+        return false;
+    }
     return true;
 }
 

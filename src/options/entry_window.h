@@ -112,7 +112,9 @@ protected:
     // the help box below them.
     HelpLabel* addHeader(const QString& caption);
     HelpLabel* addLabel(int index, const QString& caption);
-    QLineEdit* addBox(int index, const QString& accessibleName);
+    // A box of a field of FieldWidth columns takes no more characters than that; a box that
+    // fills no field (a shadow of a list, a calculated display) is built with 0.
+    QLineEdit* addBox(int index, const QString& accessibleName, int fieldWidth = StandardFieldWidth);
     QLabel* addUnitLabel(int index);
     QRadioButton* addOption(ControlArray<QRadioButton>& array, const QString& arrayName, int index,
                             const QString& caption, QButtonGroup* group);
@@ -133,6 +135,11 @@ protected:
     void paintBox(int index, bool valid);
     // Toggles help item Index of this window (0 for the header).
     void showHelp(int index);
+    // Shows a note of the window's own in the help box, in place of any help item.
+    void showNote(const std::string& note);
+    // Whether every box holds no more than its field's columns; the first box that holds more
+    // turns red, takes the focus and the help box says why. Accept writes nothing until then.
+    bool boxesFitTheirFields();
 
     // What the user can change, as texts: compared with what it was when the window first
     // showed, it tells whether closing by the close box loses anything. By default the texts,

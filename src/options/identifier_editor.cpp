@@ -37,15 +37,16 @@ QButtonGroup* frmFlume::addOptionRow(ControlArray<QRadioButton>& array, const QS
 void frmFlume::buildControls() {
     addHeader("Brooklet Identifier:");
     for (int index : UnusedBoxes)
-        addBox(index, QString())->hide();
+        addBox(index, QString(), 0)->hide();
 
     QButtonGroup* inputUnits = addOptionRow(opt1, "opt1", 1, "Input Units Code:  ", "English", "Metric");
     addOptionRow(opt2, "opt2", 2, "Output Units Code:", "English", "Metric");
     addRow(addLabel(3, "Minimum Hydrograph Value:  "), {addBox(3, "Minimum Hydrograph Value:")},
            addUnitLabel(3));
     addOptionRow(opt4, "opt4", 4, "Screen Output Code:  ", "Screen Output", "No Screen Output");
-    addRow(addLabel(5, "Watershed Description:"), {addBox(5, "Watershed Description:")});
-    addRow(nullptr, {addBox(6, "Watershed Description: second line")});
+    // The description lines are written whole as lines, not into fields; their check cuts them.
+    addRow(addLabel(5, "Watershed Description:"), {addBox(5, "Watershed Description:", 0)});
+    addRow(nullptr, {addBox(6, "Watershed Description: second line", 0)});
     for (int index : {5, 6})
         txtInp(index)->setMinimumWidth(560);
     addButtons("    No Changes   (Close)", " Accept Changes   (Close)");

@@ -56,9 +56,9 @@ void frmAlternate::buildControls() {
     setBackground(cmbInp1, UntouchedColour);
     cmbInp1->installEventFilter(this);
     // The shadow box holds the identifier's text and colour; it is never shown.
-    addBox(1, "Alternate Identifier")->hide();
+    addBox(1, "Alternate Identifier", 0)->hide();
     addRow(addLabel(1, "Alternate Identifier"), {cmbInp1});
-    QLineEdit* description = addBox(2, "Alternate Description");
+    QLineEdit* description = addBox(2, "Alternate Description", DescriptionWidth);
     description->setMinimumWidth(480);
     addRow(addLabel(2, "Alternate Description"), {description});
 

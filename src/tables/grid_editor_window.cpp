@@ -1,5 +1,6 @@
 #include "tables/grid_editor_window.h"
 
+#include "editing/field_checks.h"
 #include "editing/grid_editor.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
@@ -263,10 +264,17 @@ void GridEditorWindow::pasteRows() {
     std::vector<std::pair<double, int>> refused;
     for (const auto& cells : rows) {
         // Each cell is typed into its box and checked, the key first, as it places the row.
+        // A value wider than its field is taken whole, refused, and the help box says why.
         const auto typeCell = [&](int col) {
-            txtInp(rowDesign_.KeyBox + col)
-                ->setText(fromBytes(size_t(col) < cells.size() ? cells[size_t(col)] : ""));
-            return checkBox(rowDesign_.KeyBox + col);
+            const int index = rowDesign_.KeyBox + col;
+            const std::string text = size_t(col) < cells.size() ? cells[size_t(col)] : "";
+            const bool fits = setTextUncut(txtInp(index), fromBytes(text));
+            const bool valid = checkBox(index) && fits;
+            if (!fits) {
+                paintBox(index, false);
+                showNote(FieldTooLongNote(trim(text), fieldWidthOf(txtInp(index))));
+            }
+            return valid;
         };
         if (!typeCell(0)) {
             focusAndSelect(rowDesign_.KeyBox);

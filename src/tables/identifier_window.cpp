@@ -49,7 +49,7 @@ QComboBox* IdentifierWindow::addCombo(int index, const QString& accessibleName) 
     combo->installEventFilter(this);
     cmbInp.add(index, combo);
     // The shadow box carries the text and colour of the entry's field; it is never shown.
-    addBox(index, accessibleName)->hide();
+    addBox(index, accessibleName, 0)->hide();
     return combo;
 }
 

@@ -42,7 +42,7 @@ void frmInpHyd::buildControls() {
     addRow(addLabel(7, "Input Hydrograph Base Flow"), {addBox(7, "Input Hydrograph Base Flow")},
            addUnitLabel(7));
     // The shadow box of the flows is never shown.
-    addBox(8, "Input Hydrograph Flows")->hide();
+    addBox(8, "Input Hydrograph Flows", 0)->hide();
     addRow(addLabel(8, "Input Hydrograph Flows"),
            {captionLabel(this, "Label2(1)", "@ Input Hydrograph Time Increment")}, addUnitLabel(8));
     lblInUnit(4)->setText("hr");

@@ -82,7 +82,7 @@ QComboBox* frmStorm::addCombo(int index, const QString& accessibleName) {
     list->installEventFilter(this);
     cmbInp.add(index, list);
     // The shadow box holds the text the grid takes; it is never shown.
-    addBox(index, accessibleName)->hide();
+    addBox(index, accessibleName, 0)->hide();
     return list;
 }
 
@@ -109,7 +109,7 @@ void frmStorm::buildControls() {
         if (isComboBox(index)) {
             addRow(label, {addCombo(index, caption)});
         } else if (index == RunoffBox) {
-            addBox(RunoffBox, caption)->hide();
+            addBox(RunoffBox, caption, 0)->hide();
             Frame1 = new QGroupBox(this);
             nameControl(Frame1, "Frame1", caption);
             auto* line = new QHBoxLayout(Frame1);
@@ -310,6 +310,11 @@ bool frmStorm::applyBox(int index) {
     // No field can be entered before the storm identifier.
     if (isBlank(boxText(StormBox)) && !isBlank(text))
         valid = false;
+    // A pasted value wider than its field is refused, and the help box says why.
+    if (!fitsItsField(txtInp(index))) {
+        valid = false;
+        showNote(FieldTooLongNote(trim(text), fieldWidthOf(txtInp(index))));
+    }
     if (valid)
         setBackground(txtInp(index), isBlank(text) ? UntouchedColour : AcceptedColour);
     else
@@ -448,7 +453,7 @@ void frmStorm::pasteRows() {
                 combo(index)->setEditText(fromBytes(text));
                 leaveCombo(index);
             } else {
-                txtInp(index)->setText(fromBytes(text));
+                setTextUncut(txtInp(index), fromBytes(text));
                 if (index == RunoffBox)
                     optionFollowsBox6();
                 applyBox(index);

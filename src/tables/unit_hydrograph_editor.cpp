@@ -35,7 +35,7 @@ QTableWidget* frmDimHyd::grid() const {
 
 void frmDimHyd::buildControls() {
     addHeader("Dimensionless Unit Hydrograph:");
-    QLineEdit* shadow = addBox(1, "Dimensionless Hydrograph Points:");
+    QLineEdit* shadow = addBox(1, "Dimensionless Hydrograph Points:", 0);
     shadow->setEnabled(false);
     shadow->hide();
     addRow(addLabel(1, "Dimensionless Hydrograph Points:"), {});
@@ -52,7 +52,7 @@ void frmDimHyd::buildControls() {
                                          cmdDelAll->setEnabled(true);
                                      }
                                  },
-                                 [] {}});
+                                 [] {}, [this](const std::string& note) { showNote(note); }});
     addRow(nullptr, {panel_->MSFlexGrid1});
     addButtons("    No Changes      (Close)", "Accept Changes  (Close)");
     CmdPlot = new QPushButton("Display Data", this);

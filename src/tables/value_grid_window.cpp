@@ -114,8 +114,18 @@ void ValueGridPanel::pressCell(int row, int col, Qt::MouseButton button, const Q
 
 bool ValueGridPanel::gridKey(QKeyEvent* key) {
     if (key->matches(QKeySequence::Paste)) {
-        values_->paste(SplitPastedValues(context_.platform.clipboardText()));
+        const bool tableOnShow = values_->Index > 0;
+        const std::vector<std::string> pasted = SplitPastedValues(context_.platform.clipboardText());
+        values_->paste(pasted);
         hooks_.edited();
+        // The cell of a value that does not fit is red; the help box says why.
+        const int width = context_.tabular.GridCellWidth;
+        for (const std::string& value : tableOnShow ? pasted : std::vector<std::string>{}) {
+            if (!FieldFits(value, width, true)) {
+                hooks_.note(FieldTooLongNote(trim(value), width));
+                break;
+            }
+        }
         return true;
     }
     if (key->matches(QKeySequence::Copy)) {
@@ -163,15 +173,16 @@ NamedValueWindow::NamedValueWindow(AppContext& context, EntryDesign design, Tabu
       valueDesign(std::move(valueDesign)) {}
 
 QTableWidget* NamedValueWindow::addValueGrid(const QString& accessibleName) {
-    panel_ = new ValueGridPanel(this, context, tabular, valueDesign.Rules, accessibleName,
-                                {[this] { updatePlotButton(); },
-                                 [this] {
-                                     if (panel_->values().Index > 2) {
-                                         CmdPlot->setEnabled(true);
-                                         cmdDelCur->setEnabled(true);
-                                     }
-                                 },
-                                 [this] { focusBox(1); }});
+    panel_ =
+        new ValueGridPanel(this, context, tabular, valueDesign.Rules, accessibleName,
+                           {[this] { updatePlotButton(); },
+                            [this] {
+                                if (panel_->values().Index > 2) {
+                                    CmdPlot->setEnabled(true);
+                                    cmdDelCur->setEnabled(true);
+                                }
+                            },
+                            [this] { focusBox(1); }, [this](const std::string& note) { showNote(note); }});
     return panel_->MSFlexGrid1;
 }
 

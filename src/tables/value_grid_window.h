@@ -43,6 +43,8 @@ public:
         std::function<void()> cellChanged;
         // A click in the grid while no value is in it.
         std::function<void()> clickedEmpty;
+        // A pasted value wider than its field: the words the help box shows.
+        std::function<void(const std::string& note)> note;
     };
 
     // The panel works on the window's own tables.

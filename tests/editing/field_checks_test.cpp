@@ -158,6 +158,48 @@ TEST(AppendField, AnOverLongValueIsNotCutAndShiftsTheRest) {
     EXPECT_EQ(record, "AB1234567  ");
 }
 
+TEST(AppendField, TellsWhetherTheValueFitItsField) {
+    std::string record;
+    EXPECT_TRUE(AppendField(record, "12345", 5, true));
+    EXPECT_TRUE(AppendField(record, "  12  ", 5, true));
+    EXPECT_FALSE(AppendField(record, "123456", 5, true));
+    EXPECT_FALSE(AppendField(record, "ABCDEF", 5, false));
+    EXPECT_TRUE(FieldFits("1234567890", 10, true));
+    EXPECT_FALSE(FieldFits("12345678901", 10, true));
+    // A trailing point is added only where there is room, so it never makes a value too wide.
+    EXPECT_TRUE(FieldFits("123456789", 10, true));
+    // Blanks around a number are trimmed before it is placed; a text keeps them.
+    EXPECT_TRUE(FieldFits("  1234567890  ", 10, true));
+    EXPECT_FALSE(FieldFits(" REACH12345", 10, false));
+}
+
+TEST(FieldFitWatch, HearsEveryValueThatShiftsItsRecordAndOnlyWhileItLives) {
+    std::string record;
+    AppendField(record, "12345678901", 10, true);
+    FieldFitWatch outer;
+    {
+        FieldFitWatch inner;
+        AppendField(record, "1.5", 10, true);
+        EXPECT_TRUE(inner.allFit());
+        AppendField(record, "0.30000000000000004", 10, true);
+        AppendField(record, "LONG LAND USE NAME OF MORE THAN THIRTY-FIVE", 35, false);
+        EXPECT_EQ(inner.overflows(), 2);
+        EXPECT_EQ(inner.firstValue(), "0.30000000000000004");
+        EXPECT_EQ(inner.firstWidth(), 10);
+    }
+    EXPECT_TRUE(outer.allFit());
+    AppendField(record, "ABCDEF", 5, false);
+    EXPECT_EQ(outer.overflows(), 1);
+    EXPECT_EQ(outer.firstValue(), "ABCDEF");
+}
+
+TEST(FieldTooLongNote, NamesTheValueItsLengthAndTheWidth) {
+    EXPECT_EQ(
+        FieldTooLongNote("12345678901", 10),
+        "The value 12345678901 is 11 characters long, but its field in the record holds only 10; nothing is "
+        "written until it is shortened.");
+}
+
 TEST(AppendField, ABlankValueGivesBlanks) {
     std::string record;
     AppendField(record, "", 10, true);

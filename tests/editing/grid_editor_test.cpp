@@ -93,6 +93,30 @@ TEST(FlowGrid, TypingTwoDigitsAndEnterInANewCellKeepsTwelveAndMovesOn) {
     EXPECT_EQ(window.context.ValueStore(3), "");
 }
 
+TEST(FlowGrid, ACellTakesNoKeyBeyondTheColumnsOfItsField) {
+    FlowWindow window = newTable();
+    window.type("1234567.8901");
+    EXPECT_EQ(window.grid.cellText(0, 1), "1234567.89");
+    // Backspace still works on a full cell, and a key then fills it again.
+    window.key(BackspaceKey);
+    window.type("5");
+    EXPECT_EQ(window.grid.cellText(0, 1), "1234567.85");
+    window.enter();
+    EXPECT_EQ(window.colour(0, 1), UntouchedColour);
+}
+
+TEST(FlowGrid, AValueWiderThanItsFieldIsRedWhenTheCursorLeavesIt) {
+    FlowWindow window({"0", "0.5", "1"});
+    window.click(0, 1);
+    window.grid.setCellText(0, 1, "0.500000000001");
+    window.click(0, 2);
+    EXPECT_EQ(window.colour(0, 1), RefusedColour);
+    window.click(0, 1);
+    window.grid.setCellText(0, 1, "0.5");
+    window.click(0, 2);
+    EXPECT_EQ(window.colour(0, 1), UntouchedColour);
+}
+
 TEST(FlowGrid, TheFirstKeyInTheNextCellOverwritesIt) {
     FlowWindow window({"0", "5", "7", "9"});
     window.click(0, 1);

@@ -3,6 +3,8 @@
 // leave it.
 #include "network_window_fixture.h"
 
+#include <QPlainTextEdit>
+
 #include "network/land_use_window.h"
 #include "network/sub_area_editor.h"
 #include "network/tc_calculator.h"
@@ -197,6 +199,38 @@ TEST_F(CalculatorWindowsTest, AChannelOfLengthAndVelocityOnlyIsTimedAndWrittenSh
     section[9] = tens({"", "", "CHANNEL", "1800.", "3.2"});
     EXPECT_EQ(workFileBytes(), crlf(section));
     EXPECT_TRUE(session().DataChanged);
+}
+
+TEST_F(CalculatorWindowsTest, ACalculatedVelocityWiderThanItsColumnsIsRedSaysWhyAndIsNotWritten) {
+    ASSERT_NE(openCalculator(1, "A2"), nullptr);
+    const std::string before = workFileBytes();
+    typeIn(21, "0.0005");
+    typeIn(23, "0.0001");
+    typeIn(22, "99999999999");
+    // The box took only the ten characters of its field; the velocity is shown whole.
+    EXPECT_EQ(tcBox(22)->text(), "9999999999");
+    const QString velocity = tcBox(24)->text();
+    EXPECT_GT(velocity.size(), 10);
+    EXPECT_EQ(background(tcBox(24)), RefusedColour);
+    const auto* help = control<QPlainTextEdit>(calculator, "txtHelp");
+    EXPECT_TRUE(help->isVisible());
+    const std::string note =
+        "The value " + velocity.toStdString() + " is " + std::to_string(velocity.size()) +
+        " characters long, but its field in the record holds only 10; nothing is written "
+        "until it is shortened.";
+    EXPECT_EQ(help->toPlainText().toStdString(), note);
+    // Return writes nothing while the velocity does not fit, and the window stays.
+    click(tcButton("cmdFinished"));
+    EXPECT_FALSE(calculatorClosed("frmTc"));
+    EXPECT_EQ(workFileBytes(), before);
+    EXPECT_EQ(help->toPlainText().toStdString(), note);
+    // With the wetted perimeter emptied the typed velocity stands again and fits.
+    typeIn(23, "");
+    typeIn(24, "3.5");
+    click(tcButton("cmdFinished"));
+    EXPECT_TRUE(calculatorClosed("frmTc"));
+    for (const std::string& line : splitLines(workFileBytes()))
+        EXPECT_LE(line.size(), 80u) << line;
 }
 
 TEST_F(CalculatorWindowsTest, TabFromTheSubAreaListGoesToTheSheetLength) {
@@ -408,6 +442,27 @@ TEST_F(CalculatorWindowsTest, LandUseShowsItsControlsAndTheRowsCellsWithTheSums)
     // 0.5 x 58 + 0.25 x 70 = 46.5 over 0.75 = 62.
     EXPECT_EQ(sum(27), "0.75");
     EXPECT_EQ(sum(28), "62");
+}
+
+TEST_F(CalculatorWindowsTest, ALocalLandUseNameWiderThanItsColumnsIsNeverWrittenShifted) {
+    const std::string name = "Meadow on the north slope by the creek";
+    writeBytes(session().LocalLandUseFile, "\"" + name + "\",\"70\",\"80\",\"85\",\"90\"\r\n\"\"\r\n");
+    ASSERT_NE(openCalculator(0, "A2"), nullptr);
+    const std::string before = workFileBytes();
+    const int row = gridRowOf(QString::fromStdString(name));
+    ASSERT_GT(row, 0);
+    pressCell(row, 1);
+    QTest::keyClicks(grid(), "2");
+    click(tcButton("cmdFinished"));
+    // The name would push the soil group and the area out of their columns: nothing is written.
+    EXPECT_FALSE(calculatorClosed("frmLandUse"));
+    EXPECT_EQ(workFileBytes(), before);
+    const auto* help = control<QPlainTextEdit>(calculator, "txtHelp");
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->toPlainText().toStdString(),
+              "The value " + name +
+                  " is 38 characters long, but its field in the record holds only 35; nothing is "
+                  "written until it is shortened.");
 }
 
 TEST_F(CalculatorWindowsTest, TheSoilDisplayButtonShowsWhenTheSoilFileOpens) {

@@ -112,6 +112,20 @@ TEST_F(LocalLandUseEditorTest, PickingAnEntryShowsItsCurveNumbersInWhite) {
     EXPECT_EQ(window->LocalLandUse.Selected, 2);
 }
 
+TEST_F(LocalLandUseEditorTest, ACurveNumberTakesFiveCharactersTypedAndAWiderOneOfTheFileIsNotCut) {
+    localFile("\"Lot\",\"70.125\",\"75\",\"80\",\"85\"\r\n\"\"\r\n");
+    open();
+    enterName("Lot");
+    EXPECT_EQ(boxTexts(), (Texts{"Lot", "70.125", "75", "80", "85"}));
+    typeAndPress(2, "");
+    typeAndPress(3, "");
+    box(3)->selectAll();
+    QTest::keyClicks(box(3), "76.12345");
+    EXPECT_EQ(box(3)->text(), "76.12");
+    accept();
+    EXPECT_EQ(localFileBytes(), "\"Lot\",\"70.125\",\"76.12\",\"80\",\"85\"\r\n\"\"\r\n");
+}
+
 TEST_F(LocalLandUseEditorTest, EntriesReadFromTheFileAreComparedWithCaseCounting) {
     localFile("\"Lot\",\"70\",\"75\",\"80\",\"85\"\r\n\"lot\",\"40\",\"50\",\"60\",\"70\"\r\n\"\"\r\n");
     open();

@@ -2,6 +2,8 @@
 // written back from them, with the differences between reader and writer that the section has.
 #include "network/sub_area.h"
 
+#include "editing/field_checks.h"
+
 #include "network_records.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +49,22 @@ TEST(SubAreaSection, ReadsTheDetailRecordsIntoTheirFields) {
     EXPECT_EQ(tables.LandUseStore(3, 1), "0.5");
     EXPECT_EQ(tables.LandUseFirst[1], 1);
     EXPECT_EQ(tables.LandUseLast[1], 1);
+}
+
+TEST(SubAreaSection, TheWriterTellsAWatchOfEveryValueWiderThanItsColumns) {
+    WatershedTables tables = read({SubAreaHeader, A1, landArea("Meadow", "B", "0.5"), ""});
+    {
+        FieldFitWatch watch;
+        SubAreaSectionRecords(tables);
+        EXPECT_TRUE(watch.allFit());
+    }
+    tables.SubAreaTable(4, 1) = "12345678901";
+    tables.LandUseStore(1, 1) = "Meadow of more than thirty-five characters";
+    FieldFitWatch watch;
+    SubAreaSectionRecords(tables);
+    EXPECT_EQ(watch.overflows(), 2);
+    EXPECT_EQ(watch.firstValue(), "12345678901");
+    EXPECT_EQ(watch.firstWidth(), 10);
 }
 
 TEST(SubAreaSection, EveryRecordKindAndBothChannelFormsComeBackByteForByte) {

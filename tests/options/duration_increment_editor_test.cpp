@@ -184,13 +184,23 @@ TEST_F(DurationIncrementEditorTest, ADurationInDaysIsWrittenAsDaysAndReadBackWit
     EXPECT_EQ(unitWords(), Days);
 }
 
-TEST_F(DurationIncrementEditorTest, AcceptWritesARedValueAsItStandsAndALongOneWhole) {
+TEST_F(DurationIncrementEditorTest, AcceptWritesARedValueAsItStands) {
     open();
     enter(2, "-2");
     ASSERT_EQ(background(box(2)), RefusedColour);
-    type(3, "12345678901");
     accept();
-    EXPECT_EQ(workFileBytes(), crlf({Header + field("Hours") + field("-2.") + "12345678901" + field("")}));
+    EXPECT_EQ(workFileBytes(), crlf({record("Hours", "-2.", "", "")}));
+}
+
+TEST_F(DurationIncrementEditorTest, ABoxTakesNoMoreCharactersThanItsColumnsSoNoColumnShifts) {
+    open();
+    EXPECT_EQ(box(3)->maxLength(), 10);
+    type(3, "12345678901");
+    EXPECT_EQ(box(3)->text(), "1234567890");
+    type(4, "5");
+    accept();
+    EXPECT_EQ(workFileBytes(), crlf({record("Hours", "", "1234567890", "5.")}));
+    EXPECT_TRUE(windowClosed());
 }
 
 TEST_F(DurationIncrementEditorTest, AcceptWithTheThreeBoxesBlankWritesNothingAndTheXGoes) {

@@ -7,6 +7,7 @@
 #include "tables/rainfall_distribution_editor.h"
 
 #include <QLabel>
+#include <QPlainTextEdit>
 
 namespace brooklet::test {
 namespace {
@@ -272,6 +273,44 @@ TEST_F(RainfallDistributionEditorTest, PastedValuesAreTypedFromTheCurrentCellAnd
     accept();
     EXPECT_EQ(workFileBytes(),
               crlf({Header, identifier("T1", "0.5"), valueRecord({"0.", "0.1", "0.3", "0.2", "1."}), ""}));
+}
+
+TEST_F(RainfallDistributionEditorTest, ACellTakesNoMoreDigitsThanItsColumnsHold) {
+    open();
+    newTable("T1", "0.5");
+    typeValues({"0.123456789012", "1"});
+    EXPECT_EQ(gridRow(0), (Texts{"0", "0.12345678", "1", "", ""}));
+    accept();
+    EXPECT_EQ(workFileBytes(),
+              crlf({Header, identifier("T1", "0.5"), valueRecord({"0.", "0.12345678", "1."}), ""}));
+}
+
+TEST_F(RainfallDistributionEditorTest, APastedValueWiderThanItsColumnsIsRedSaysWhyAndIsNeverWrittenShifted) {
+    writeWorkFile(TwoTables);
+    open();
+    enterName("A");
+    clickCell(0, 2);
+    platform.setClipboardText("0.300000000001\t0.7\r\n");
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(gridRow(0), (Texts{"0.", "0.2", "0.300000000001", "0.7", ""}));
+    EXPECT_EQ(cellColour(0, 2), RefusedColour);
+    const auto* help = control<QPlainTextEdit>(window, "txtHelp");
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->toPlainText().toStdString(),
+              "The value 0.300000000001 is 14 characters long, but its field in the record holds only 10; "
+              "nothing is written until it is shortened.");
+    // Accept writes nothing while the value does not fit: the window and the work file stay.
+    accept();
+    EXPECT_FALSE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf(TwoTables));
+    EXPECT_FALSE(session().DataChanged);
+    // Retyped shorter, the value goes in its ten columns.
+    clickCell(0, 2);
+    typeValues({"0.3"});
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(), crlf({Header, identifier("A", "0.5"), valueRecord({"0.", "0.2", "0.3", "0.7"}),
+                                     identifier("B", "1."), valueRecord({"0.1", "0.5", "1."}), ""}));
 }
 
 TEST_F(RainfallDistributionEditorTest, NoChangesLeavesTheWorkFileAsItWas) {

@@ -379,6 +379,36 @@ TEST_F(StormEditorTest, CtrlVTakesPastedRowsInAsIfTyped) {
                                      stormLine({"S2", "G2", "0.", "4.", "Type II", "1", ""})}));
 }
 
+TEST_F(StormEditorTest, APastedRainfallWiderThanItsColumnsIsRedSaysWhyAndIsNeverWrittenShifted) {
+    const std::vector<std::string> lines{Header, stormLine({"S1", "G1", "0.", "5.", "RT1", "2", ""})};
+    startWithSection(lines);
+    open();
+    EXPECT_EQ(box(4)->maxLength(), 10);
+    QApplication::clipboard()->setText("S2\tG2\t0\t4.12345678901\tType II\t1\t\r\n");
+    grid()->setFocus();
+    QTest::keyClick(grid(), Qt::Key_V, Qt::ControlModifier);
+    const std::string note =
+        "The value 4.12345678901 is 13 characters long, but its field in the record holds only 10; "
+        "nothing is written until it is shortened.";
+    EXPECT_EQ(helpBox()->toPlainText().toStdString(), note);
+    // Accept writes nothing while the rainfall does not fit: the box is red and says why.
+    accept();
+    EXPECT_FALSE(windowClosed());
+    EXPECT_EQ(box(4)->text(), "4.12345678901");
+    EXPECT_EQ(colourOf(4), RefusedColour);
+    EXPECT_TRUE(helpBox()->isVisible());
+    EXPECT_EQ(helpBox()->toPlainText().toStdString(), note);
+    EXPECT_EQ(workFileBytes(), crlf(lines));
+    EXPECT_FALSE(session().DataChanged);
+    // Typed anew, the rainfall takes its ten columns and the row is written.
+    enterField(4, "4.1234567890123");
+    EXPECT_EQ(box(4)->text(), "4.12345678");
+    accept();
+    EXPECT_TRUE(windowClosed());
+    EXPECT_EQ(workFileBytes(),
+              crlf({Header, lines[1], stormLine({"S2", "G2", "0.", "4.12345678", "Type II", "1", ""})}));
+}
+
 TEST_F(StormEditorTest, CopiedRowsPastedIntoAnEmptyWindowComeOutTheSame) {
     const std::vector<std::string> lines{Header, stormLine({"S1", "G1", "0.", "5.", "Type II", "2", ""}),
                                          stormLine({"S2", "", "1.", "6.", "RT", "3", "2.5"})};
