@@ -4,9 +4,9 @@
 
 #include "check/check_watershed.h"
 #include "check/check_window.h"
+#include "editing/app_context.h"
 #include "network/local_land_use.h"
 #include "network/standard_land_use.h"
-#include "session/app_context.h"
 #include "session/text_file.h"
 
 namespace brooklet {

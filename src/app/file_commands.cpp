@@ -1,10 +1,10 @@
 #include "app/file_commands.h"
 
 #include "app/main_window.h"
+#include "editing/app_context.h"
 #include "network/local_land_use.h"
 #include "run/external_programs.h"
 #include "run/run_commands.h"
-#include "session/app_context.h"
 #include "session/input_file.h"
 #include "session/text_file.h"
 

@@ -13,8 +13,8 @@
 #include "app/program_folder.h"
 #include "app/window_catalog.h"
 #include "base/version.h"
+#include "editing/app_context.h"
 #include "editing/widgets.h"
-#include "session/app_context.h"
 #include "session/qt_platform.h"
 #include "session/text_file.h"
 

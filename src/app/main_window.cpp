@@ -3,11 +3,11 @@
 #include "app/check_command.h"
 #include "app/file_commands.h"
 #include "check/check_window.h"
+#include "editing/app_context.h"
 #include "editing/help_windows.h"
 #include "network/standard_land_use.h"
 #include "run/file_viewer.h"
 #include "run/run_commands.h"
-#include "session/app_context.h"
 #include "session/input_file.h"
 #include "session/text_file.h"
 #include "session/view_menu.h"
@@ -282,7 +282,7 @@ void frmMain::Form_Activate() {
     mnuPlots->setVisible(false);
     if (!session.DataChanged && !session.CurrentFile.empty() && !session.isUntitled()) {
         mnuRun->setVisible(true);
-        UpdateViewMenu(context_, this);
+        UpdateViewMenu(context_.session, this);
         if (fileExists(session.OutputPath))
             mnuPlots->setVisible(true);
     } else {
@@ -505,7 +505,7 @@ void frmMain::saveFile() {
     // A save that failed leaves the data unsaved, and the model may not run on it.
     if (SaveInputFile(context_))
         mnuRun->setVisible(true);
-    UpdateViewMenu(context_, this);
+    UpdateViewMenu(context_.session, this);
     endFileCommand();
 }
 
@@ -523,7 +523,7 @@ void frmMain::saveFileAs() {
     if (!context_.session.isUntitled()) {
         if (!context_.session.DataChanged)
             mnuRun->setVisible(true);
-        UpdateViewMenu(context_, this);
+        UpdateViewMenu(context_.session, this);
     }
     endFileCommand();
 }

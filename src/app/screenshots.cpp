@@ -13,7 +13,7 @@
 #include "app/file_commands.h"
 #include "app/main_window.h"
 #include "app/window_catalog.h"
-#include "session/app_context.h"
+#include "editing/app_context.h"
 #include "session/qt_platform.h"
 
 namespace {

@@ -8,9 +8,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "editing/app_context.h"
 #include "editing/widgets.h"
 #include "options/entry_window.h"
-#include "session/app_context.h"
 
 namespace brooklet {
 namespace {

@@ -14,17 +14,6 @@
 
 namespace brooklet {
 
-QString pathToQt(const std::string& path) {
-    return QFile::decodeName(QByteArray::fromStdString(path));
-}
-std::string pathFromQt(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
-QString indexedName(const QString& name, int index) {
-    return QString("%1(%2)").arg(name).arg(index);
-}
-
 void nameControl(QObject* control, const QString& name, const QString& accessibleName) {
     control->setObjectName(name);
     if (auto* widget = qobject_cast<QWidget*>(control); widget && !accessibleName.isEmpty())

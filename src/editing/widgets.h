@@ -12,23 +12,9 @@ class QLineEdit;
 #include <string>
 
 #include "editing/colours.h"
+#include "session/qt_text.h"
 
 namespace brooklet {
-
-// File text goes through the program byte for byte.
-inline QString fromBytes(const std::string& bytes) {
-    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-inline std::string toBytes(const QString& text) {
-    return text.toLatin1().toStdString();
-}
-
-// Paths are in the file system's own encoding.
-QString pathToQt(const std::string& path);
-std::string pathFromQt(const QString& path);
-
-// "txtInp(3)": the name of element Index of a control array.
-QString indexedName(const QString& name, int index);
 
 // Gives a control its design name and the name a screen reader speaks.
 void nameControl(QObject* control, const QString& name, const QString& accessibleName = QString());

@@ -1,11 +1,11 @@
 #include "network/land_use_window.h"
 
 #include "base/text.h"
+#include "editing/app_context.h"
 #include "editing/qt_grid.h"
 #include "editing/watershed_tables.h"
 #include "network/local_soil.h"
 #include "network/sub_area.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

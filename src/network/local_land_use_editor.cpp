@@ -1,9 +1,9 @@
 #include "network/local_land_use_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/help_box.h"
 #include "editing/numbers.h"
 #include "network/local_land_use.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QFocusEvent>

@@ -1,9 +1,9 @@
 #include "network/local_soil_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
 #include "network/local_soil.h"
-#include "session/app_context.h"
 
 #include <QCheckBox>
 #include <QComboBox>

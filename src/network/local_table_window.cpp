@@ -1,9 +1,9 @@
 #include "network/local_table_window.h"
 
+#include "editing/app_context.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "session/text_file.h"
 
 #include <QComboBox>

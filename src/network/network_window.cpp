@@ -1,8 +1,8 @@
 #include "network/network_window.h"
 
+#include "editing/app_context.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 
 #include <QButtonGroup>
 #include <QComboBox>

@@ -1,12 +1,12 @@
 #include "network/reach_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
 #include "editing/watershed_tables.h"
 #include "network/reach.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QGroupBox>

@@ -1,11 +1,11 @@
 #include "network/sub_area_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
 #include "network/sub_area.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QGroupBox>

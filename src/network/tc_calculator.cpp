@@ -1,11 +1,11 @@
 #include "network/tc_calculator.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "editing/watershed_tables.h"
 #include "network/sub_area.h"
 #include "network/time_of_concentration.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QGridLayout>

@@ -1,9 +1,9 @@
 #include "options/duration_increment_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "options/duration_increment.h"
-#include "session/app_context.h"
 
 #include <QButtonGroup>
 #include <QLineEdit>

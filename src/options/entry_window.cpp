@@ -1,9 +1,9 @@
 #include "options/entry_window.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/help_box.h"
 #include "editing/text_table.h"
-#include "session/app_context.h"
 #include "session/text_file.h"
 
 #include <QAbstractButton>

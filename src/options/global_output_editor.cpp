@@ -1,9 +1,9 @@
 #include "options/global_output_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "options/global_output.h"
-#include "session/app_context.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "options/identifier_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "options/identifier_record.h"
-#include "session/app_context.h"
 
 #include <QButtonGroup>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "options/time_analysis_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "options/time_analysis.h"
-#include "session/app_context.h"
 
 #include <QFocusEvent>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "options/verification_editor.h"
 
+#include "editing/app_context.h"
 #include "options/verification.h"
-#include "session/app_context.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -13,13 +13,13 @@
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include "editing/app_context.h"
 #include "editing/help_box.h"
 #include "editing/help_view.h"
 #include "editing/identifier_lists.h"
 #include "editing/qt_lists.h"
 #include "plots/output_reader.h"
 #include "plots/plot_selection.h"
-#include "session/app_context.h"
 
 namespace brooklet {
 namespace {

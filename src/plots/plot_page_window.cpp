@@ -4,9 +4,9 @@
 #include <QMenuBar>
 #include <QPixmap>
 
+#include "editing/app_context.h"
 #include "editing/widgets.h"
 #include "plots/plot_painter.h"
-#include "session/app_context.h"
 #include "session/qt_platform.h"
 
 namespace brooklet {

@@ -15,12 +15,12 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include "editing/app_context.h"
 #include "editing/grid_editor.h"
 #include "plots/picture_export.h"
 #include "plots/plot_page_window.h"
 #include "plots/plot_painter.h"
 #include "plots/plot_tools.h"
-#include "session/app_context.h"
 #include "session/section_table.h"
 #include "session/text_file.h"
 

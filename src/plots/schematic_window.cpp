@@ -1,11 +1,11 @@
 #include "plots/schematic_window.h"
 
+#include "editing/app_context.h"
 #include "editing/numbers.h"
 #include "editing/widgets.h"
 #include "plots/picture_export.h"
 #include "plots/print_dialog.h"
 #include "plots/schematic_drawing.h"
-#include "session/app_context.h"
 #include "session/qt_platform.h"
 #include "session/section_table.h"
 #include "session/text_file.h"

@@ -1,8 +1,8 @@
 #include "run/file_viewer.h"
 
-#include "session/app_context.h"
-#include "session/view_menu.h"
+#include "editing/app_context.h"
 #include "session/text_file.h"
+#include "session/view_menu.h"
 
 #include <QLabel>
 #include <QMenuBar>
@@ -96,7 +96,7 @@ void frmFileDisp::loadFile() {
     const bool known = index >= 1 && index <= ResultExtensionCount;
     path_ = BaseName(session.CurrentFile) + (known ? session.ResultExtension[index] : std::string());
     RichTextBox1->setPlainText(fromBytes(readFileBytes(path_).value_or(std::string())));
-    UpdateViewMenu(context_, this);
+    UpdateViewMenu(context_.session, this);
     setWindowTitle(QString(DesignCaption).left(12) + pathToQt("   Current File - " + path_));
     lblWindow->setText(known ? FileLabels[index] : "");
     lblWindow->setAccessibleName(lblWindow->text());

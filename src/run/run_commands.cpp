@@ -1,8 +1,8 @@
 #include "run/run_commands.h"
 
+#include "editing/app_context.h"
 #include "run/external_programs.h"
 #include "run/file_viewer.h"
-#include "session/app_context.h"
 #include "session/text_file.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "session/qt_platform.h"
 
-#include "editing/widgets.h"
+#include "session/qt_text.h"
 #include "session/section_table.h"
 
 #include <QApplication>

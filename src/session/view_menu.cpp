@@ -1,7 +1,7 @@
 #include "session/view_menu.h"
 
-#include "editing/widgets.h"
-#include "session/app_context.h"
+#include "session/qt_text.h"
+#include "session/section_table.h"
 #include "session/text_file.h"
 
 #include <QAction>
@@ -9,8 +9,7 @@
 
 namespace brooklet {
 
-void UpdateViewMenu(AppContext& context, QWidget* window) {
-    const Session& session = context.session;
+void UpdateViewMenu(const Session& session, QWidget* window) {
     auto item = [window](int index) {
         return window->findChild<QAction*>(indexedName("mnuViewItem", index));
     };

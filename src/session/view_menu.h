@@ -4,10 +4,10 @@ class QWidget;
 
 namespace brooklet {
 
-struct AppContext;
+struct Session;
 
 // Enables the View items of a window that has the menu mnuView and the items mnuViewItem(i),
 // by the files that exist; shows mnuView when any item is enabled.
-void UpdateViewMenu(AppContext& context, QWidget* window);
+void UpdateViewMenu(const Session& session, QWidget* window);
 
 } // namespace brooklet

@@ -1,6 +1,6 @@
 #include "session/window_host.h"
 
-#include "session/app_context.h"
+#include "session/platform.h"
 
 #include <QEvent>
 #include <QEventLoop>
@@ -25,12 +25,12 @@ private:
 
 } // namespace
 
-WindowHost::WindowHost(AppContext& context) : context_(context) {
-    context_.platform.setWhenDialogsClosed([this] { deleteRetiredWindows(); });
+WindowHost::WindowHost(AppContext& context, Platform& platform) : context_(context), platform_(platform) {
+    platform_.setWhenDialogsClosed([this] { deleteRetiredWindows(); });
 }
 
 WindowHost::~WindowHost() {
-    context_.platform.setWhenDialogsClosed(nullptr);
+    platform_.setWhenDialogsClosed(nullptr);
 }
 
 void WindowHost::registerWindow(const QString& name, Factory factory, Kind kind) {
@@ -139,7 +139,7 @@ bool WindowHost::askAboutTypingInSessionWindows() {
                 std::find(discarded.begin(), discarded.end(), window) != discarded.end())
                 continue;
             asked = true;
-            const BoxAnswer answer = context_.platform.showBox(editor->typingQuestion());
+            const BoxAnswer answer = platform_.showBox(editor->typingQuestion());
             if (answer == BoxAnswer::Yes)
                 keep.emplace_back(window);
             else if (answer == BoxAnswer::No)
@@ -170,7 +170,7 @@ bool WindowHost::askAboutTypingInSessionWindows() {
 
 void WindowHost::closeSessionWindows() {
     // Their dialogs first: each hands Cancel to its window once control returns to it.
-    context_.platform.cancelOpenDialogs();
+    platform_.cancelOpenDialogs();
     closingSessionWindows_ = true;
     for (QWidget* window : sessionWindowsNewestFirst())
         closeAndRetire(window);
@@ -208,7 +208,7 @@ void WindowHost::retire(QWidget* window) {
 }
 
 void WindowHost::deleteRetiredWindows() {
-    if (context_.platform.openDialogCount() > 0 || modalDepth_ > 0)
+    if (platform_.openDialogCount() > 0 || modalDepth_ > 0)
         return;
     // Deleted when control returns to the event loop, after the routine that runs now.
     for (const QPointer<QWidget>& window : retired_)

@@ -15,6 +15,7 @@
 namespace brooklet {
 
 struct AppContext;
+class Platform;
 
 // A window that edits data of the session: before a command closes it to begin another session
 // or to end the program, it says whether it holds typing not yet accepted, and keeps it on the
@@ -37,7 +38,8 @@ class WindowHost {
 public:
     using Factory = std::function<QWidget*(AppContext&)>;
 
-    explicit WindowHost(AppContext& context);
+    // The context is handed to the windows the host makes; the platform's dialogs are counted.
+    WindowHost(AppContext& context, Platform& platform);
     ~WindowHost();
     WindowHost(const WindowHost&) = delete;
     WindowHost& operator=(const WindowHost&) = delete;
@@ -109,6 +111,7 @@ private:
     void deleteRetiredWindows();
 
     AppContext& context_;
+    Platform& platform_;
     std::map<QString, Factory> factories_;
     std::map<QString, Kind> kinds_;
     std::function<void()> mainActivation_;

@@ -1,10 +1,10 @@
 #include "tables/alternate_editor.h"
 
 #include "base/text.h"
+#include "editing/app_context.h"
 #include "editing/identifier_lists.h"
 #include "editing/qt_lists.h"
 #include "editing/watershed_tables.h"
-#include "session/app_context.h"
 #include "tables/alternate_analysis.h"
 
 #include <QComboBox>

@@ -1,11 +1,11 @@
 #include "tables/cross_section_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/grid_editor.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "tables/cross_section.h"
 
 #include <QComboBox>

@@ -1,11 +1,11 @@
 #include "tables/grid_editor_window.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/grid_editor.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
 #include "editing/spreadsheet_text.h"
-#include "session/app_context.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,10 +1,10 @@
 #include "tables/identifier_window.h"
 
+#include "editing/app_context.h"
 #include "editing/grid_editor.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 
 #include <QComboBox>
 #include <QFocusEvent>

@@ -1,9 +1,9 @@
 #include "tables/input_hydrograph_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/identifier_lists.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "tables/input_hydrograph.h"
 
 #include <QComboBox>

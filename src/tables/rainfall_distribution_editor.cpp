@@ -1,10 +1,10 @@
 #include "tables/rainfall_distribution_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "tables/rainfall_distribution.h"
 
 #include <QComboBox>

@@ -1,12 +1,12 @@
 #include "tables/storm_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/grid_editor.h"
 #include "editing/identifier_lists.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "tables/pasted_text.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "tables/structure_rating_editor.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/identifier_lists.h"
 #include "editing/qt_lists.h"
-#include "session/app_context.h"
 #include "tables/structure_rating.h"
 
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "tables/unit_hydrograph_editor.h"
 
-#include "session/app_context.h"
+#include "editing/app_context.h"
 #include "tables/unit_hydrograph.h"
 #include "tables/value_grid_window.h"
 

@@ -1,9 +1,9 @@
 #include "tables/value_grid_window.h"
 
+#include "editing/app_context.h"
 #include "editing/field_checks.h"
 #include "editing/numbers.h"
 #include "editing/qt_grid.h"
-#include "session/app_context.h"
 #include "tables/pasted_text.h"
 
 #include <QComboBox>

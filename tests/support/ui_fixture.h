@@ -6,8 +6,8 @@
 
 #include <memory>
 
-#include "session/app_context.h"
 #include "app/main_window.h"
+#include "editing/app_context.h"
 #include "support/program_folder.h"
 #include "support/scripted_platform.h"
 

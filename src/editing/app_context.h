@@ -10,7 +10,7 @@
 namespace brooklet {
 
 struct AppContext {
-    explicit AppContext(Platform& platform) : platform(platform), windows(*this) {}
+    explicit AppContext(Platform& platform) : platform(platform), windows(*this, platform) {}
     AppContext(const AppContext&) = delete;
     AppContext& operator=(const AppContext&) = delete;
 

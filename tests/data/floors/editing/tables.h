@@ -1,0 +1,2 @@
+#pragma once
+// A file of the editing floor.
