@@ -1,9 +1,10 @@
 // The two calculators of the sub-area window on any bytes, read as the sub-area section: the time
 // of concentration calculator takes each sub-area's flow path segments and rain gage into its
 // boxes and computes every segment, and the land use calculator shows each sub-area's land use
-// records in its grid (the local land uses read from the same bytes), takes a few keys, and
-// stores the grid back. No field may crash or hang them; a computed box holds a number or
-// nothing; the working store grows by no more than the cells of the grid.
+// records in its grid (the local land uses read from the same bytes), takes the user's actions
+// spelled by the sub-area's identifier, and stores the grid back. No field may crash or hang
+// them; a computed box holds a number or nothing; the working store grows by no more than the
+// cells of the grid for each store.
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -80,13 +81,31 @@ void landUse(WatershedTables& tables, const std::string& bytes) {
         ShowSubAreaCells(work, grid, row);
         MoveCursorQuietly(work, grid, 1, 1);
         CursorMoved(work, grid, 1, 1);
-        // The identifier's characters as keys: digits, points, Backspace and moves among them.
-        for (char key : tables.SubAreaTable(1, row))
-            LandUseKey(work, grid, static_cast<unsigned char>(key));
+        // The identifier's characters as the user's actions: "X" deletes the value of the
+        // remembered cell, "S" stores the grid, "D" deletes the sub-area's land use details, "P"
+        // picks the cell the next two characters point to; any other character is a key typed.
+        const std::string actions = tables.SubAreaTable(1, row);
+        for (size_t i = 0; i < actions.size(); ++i) {
+            const auto action = static_cast<unsigned char>(actions[i]);
+            if (action == 'X') {
+                DeleteCellValue(work, grid);
+            } else if (action == 'S') {
+                StoreLandUseGrid(work, grid, tables, 0);
+            } else if (action == 'D') {
+                DeleteSubAreaLandUse(work, grid, row);
+            } else if (action == 'P' && i + 2 < actions.size()) {
+                const int pickRow = static_cast<unsigned char>(actions[++i]) % grid.Rows();
+                const int pickCol = static_cast<unsigned char>(actions[++i]) % LandUseGridCols;
+                MoveCursorQuietly(work, grid, pickRow, pickCol);
+                CursorMoved(work, grid, pickRow, pickCol);
+            } else {
+                LandUseKey(work, grid, action);
+            }
+        }
         checkResult(work.Accumulated);
         checkResult(work.WeightedCn);
         StoreLandUseGrid(work, grid, tables, 0);
-        if (work.WorkStoreCount > before + cells)
+        if (work.WorkStoreCount > before + 8 * cells)
             __builtin_trap();
     }
     DeleteCellValue(work, grid);
