@@ -26,11 +26,20 @@ using namespace brooklet;
 // Sub-areas worked through in one input: enough for every shape of a small section.
 constexpr int MostSubAreas = 60;
 
-// A result box: empty, or a number as the program writes numbers.
+// A computed box of the time of concentration calculator: empty, or a number as the program
+// writes numbers.
 void checkResult(const std::string& text) {
     for (char c : text)
         if (!(c >= '0' && c <= '9') && c != '.' && c != '-' && c != '+' && c != 'E' && c != 'e')
             __builtin_trap();
+}
+
+// A sum of the land use calculator: the same, but a value read from the files (an area, or a
+// curve number of the local land use file, which has no width) may lie beyond the range of a
+// number, and the sums then show it as the number text does ("inf").
+void checkSum(const std::string& text) {
+    if (text != "inf" && text != "-inf" && text != "nan" && text != "-nan")
+        checkResult(text);
 }
 
 // The rain gage table as the storm section's scan builds it, from the same lines: the gage in
@@ -102,8 +111,8 @@ void landUse(WatershedTables& tables, const std::string& bytes) {
                 LandUseKey(work, grid, action);
             }
         }
-        checkResult(work.Accumulated);
-        checkResult(work.WeightedCn);
+        checkSum(work.Accumulated);
+        checkSum(work.WeightedCn);
         StoreLandUseGrid(work, grid, tables, 0);
         if (work.WorkStoreCount > before + 8 * cells)
             __builtin_trap();
