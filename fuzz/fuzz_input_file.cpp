@@ -1,33 +1,14 @@
 // The input file loader on any bytes: it must neither crash nor hang, whatever the file holds.
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 
-#include <unistd.h>
-
+#include "fuzz_session.h"
 #include "session/input_file.h"
 #include "session/text_file.h"
 
-namespace {
-
-// One program folder for the whole run, made once.
-const brooklet::Session& folder() {
-    static brooklet::Session session = [] {
-        brooklet::Session s;
-        const auto root =
-            std::filesystem::temp_directory_path() / ("brooklet-fuzz-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(root);
-        brooklet::StartSession(s, root.string());
-        return s;
-    }();
-    return session;
-}
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    brooklet::Session session = folder();
+    brooklet::Session session = brooklet::fuzz::fuzzSession();
     // Each load adds the land uses it brings to the local land use file; start each input afresh
     // so the file does not grow over the run.
     brooklet::deleteFile(session.LocalLandUseFile);

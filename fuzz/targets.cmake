@@ -10,3 +10,8 @@ brooklet_fuzz_target(fuzz_rating_sections ${CMAKE_CURRENT_LIST_DIR}/fuzz_rating_
 brooklet_fuzz_target(fuzz_output_reader ${CMAKE_CURRENT_LIST_DIR}/fuzz_output_reader.cpp)
 brooklet_fuzz_target(fuzz_alternate_section ${CMAKE_CURRENT_LIST_DIR}/fuzz_alternate_section.cpp)
 brooklet_fuzz_target(fuzz_check ${CMAKE_CURRENT_LIST_DIR}/fuzz_check.cpp)
+brooklet_fuzz_target(fuzz_file_viewer ${CMAKE_CURRENT_LIST_DIR}/fuzz_file_viewer.cpp)
+brooklet_fuzz_target(fuzz_identifier_lists ${CMAKE_CURRENT_LIST_DIR}/fuzz_identifier_lists.cpp)
+brooklet_fuzz_target(fuzz_land_use_merge ${CMAKE_CURRENT_LIST_DIR}/fuzz_land_use_merge.cpp)
+brooklet_fuzz_target(fuzz_calculators ${CMAKE_CURRENT_LIST_DIR}/fuzz_calculators.cpp)
+brooklet_fuzz_target(fuzz_plot_tables ${CMAKE_CURRENT_LIST_DIR}/fuzz_plot_tables.cpp)

@@ -309,7 +309,10 @@ void DeleteCellValue(LandUseWork& work, GridControl& grid) {
 void DeleteSubAreaLandUse(LandUseWork& work, GridControl& grid, int row) {
     if (row >= 1 && size_t(row) < work.WorkFirst.size() && work.WorkFirst[size_t(row)] > 0) {
         const int first = work.WorkFirst[size_t(row)];
-        const int s = work.WorkLast[size_t(row)] - first;
+        // A sub-area can keep its first position with no rows behind it (last one below first):
+        // a store step finds no cell left while the sum, in single precision, stays a trace
+        // above 0. It then has no rows to take out.
+        const int s = std::max(work.WorkLast[size_t(row)] - first, 0);
         for (int k = first + 1; k <= work.WorkStoreCount - s; ++k)
             work.WorkStore.copyRow(k + s, k);
         work.WorkStoreCount -= s;

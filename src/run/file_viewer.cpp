@@ -1,6 +1,7 @@
 #include "run/file_viewer.h"
 
 #include "editing/app_context.h"
+#include "run/viewer_text.h"
 #include "session/text_file.h"
 #include "session/view_menu.h"
 
@@ -95,7 +96,7 @@ void frmFileDisp::loadFile() {
     const int index = session.ViewIndex;
     const bool known = index >= 1 && index <= ResultExtensionCount;
     path_ = BaseName(session.CurrentFile) + (known ? session.ResultExtension[index] : std::string());
-    RichTextBox1->setPlainText(fromBytes(readFileBytes(path_).value_or(std::string())));
+    RichTextBox1->setPlainText(fromBytes(ViewerText(readFileBytes(path_).value_or(std::string()))));
     UpdateViewMenu(context_.session, this);
     setWindowTitle(QString(DesignCaption).left(12) + pathToQt("   Current File - " + path_));
     lblWindow->setText(known ? FileLabels[index] : "");
@@ -119,18 +120,11 @@ void frmFileDisp::printFile() {
         for (const QString& line : selected.split(QChar::ParagraphSeparator))
             printer.printLine(toBytes(line));
     } else {
-        LineReader reader(readFileBytes(path_).value_or(std::string()));
-        while (!reader.atEnd()) {
-            const std::string line = reader.readLine();
-            const auto formFeed = line.find('\f');
-            // A form feed in the first column starts a page and takes the rest of its line along.
-            if (formFeed == 0) {
+        for (const PrintStep& step : FilePrintSteps(readFileBytes(path_).value_or(std::string()))) {
+            if (step.newPage)
                 printer.newPage();
-                continue;
-            }
-            printer.printLine("     " + line);
-            if (formFeed != std::string::npos)
-                printer.newPage();
+            else
+                printer.printLine(step.line);
         }
     }
     printer.endDoc();

@@ -200,6 +200,27 @@ TEST_F(LandUseCalculatorTest, DeletingASubAreasRecordsKeepsTheOthersTheirs) {
                      tens({"", "A2"}) + std::string(55, ' '), landArea("Impervious", "B", "2."), ""}));
 }
 
+// Deleting the value of 0.7 on a curve number of 80 leaves a sum of a millionth above 0 in
+// single precision, so the store step keeps the sub-area's first position with no rows behind it.
+// "Delete Land Use Details" then has no rows to take out, and the later sub-areas keep theirs.
+TEST_F(LandUseCalculatorTest, DeletingTheDetailsOfASubAreaLeftWithNoRowsKeepsTheOthersTheirs) {
+    load({SubAreaHeader, tens({"", "A1"}), landArea("Parking Lot", "A", "0.7"), tens({"", "A2"}),
+          landArea("Lawn", "B", "1."), ""});
+    ShowSubAreaCells(work, grid, 1);
+    pick(1, 1);
+    DeleteCellValue(work, grid);
+    work.WorkRow = 1;
+    StoreLandUseGrid(work, grid, tables, 0);
+    DeleteSubAreaLandUse(work, grid, 1);
+    EXPECT_EQ(work.WorkStoreCount, 2);
+    EXPECT_EQ(work.WorkFirst[2], 2);
+    EXPECT_EQ(work.WorkLast[2], 2);
+    ASSERT_TRUE(ReturnLandUseWork(work, tables));
+    EXPECT_EQ(SubAreaSectionRecords(tables),
+              (Lines{SubAreaHeader, tens({"", "A1"}) + std::string(55, ' '),
+                     tens({"", "A2"}) + std::string(55, ' '), landArea("Lawn", "B", "1."), ""}));
+}
+
 TEST_F(LandUseCalculatorTest, ASubAreaWithATypedAreaOrCurveNumberIsNoChoice) {
     tables.LandUseStoreCount = 0;
     ReadSubAreaSection({SubAreaHeader, tens({"", "A1", "", "", "2."}), tens({"", "A2", "", "", "", "70"}),

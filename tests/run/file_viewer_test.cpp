@@ -110,6 +110,12 @@ TEST_F(FileViewerTest, ASecondOpenShowsTheNewChoice) {
     EXPECT_EQ(text(second), "PAGE\nTWO\n");
 }
 
+TEST_F(FileViewerTest, AByteOrderMarkIsNotShownAndEveryLineEndBreaksTheLine) {
+    writeBytes(folder.file("shed.out"), "\xEF\xBB\xBFPAGE\rCR ALONE\nLF ALONE\r\nLAST");
+    frmFileDisp* viewer = open(4);
+    EXPECT_EQ(text(viewer), "PAGE\nCR ALONE\nLF ALONE\nLAST");
+}
+
 TEST_F(FileViewerTest, CloseUnloadsTheWindow) {
     QPointer<frmFileDisp> viewer = open(1);
     QTest::mouseClick(control<QPushButton>(viewer, "cmdCancel"), Qt::LeftButton);
