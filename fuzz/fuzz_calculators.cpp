@@ -58,6 +58,7 @@ void timeOfConcentration(WatershedTables& tables) {
     if (tables.SubAreaCount <= 0)
         return;
     TextTable TcTable = BuildTcTable(tables);
+    const std::vector<int> rowIds = tables.SubAreaRowIds;
     for (int row = 1; row <= std::min(tables.SubAreaCount, MostSubAreas); ++row) {
         TcBoxes boxes;
         for (int index = 12; index <= 24; ++index)
@@ -74,7 +75,7 @@ void timeOfConcentration(WatershedTables& tables) {
         for (int index = 12; index <= 24; ++index)
             TcTable(index, row) = boxes[size_t(index)];
     }
-    ReturnTcTable(TcTable, tables);
+    ReturnTcTable(TcTable, rowIds, tables);
 }
 
 void landUse(WatershedTables& tables, const std::string& bytes) {

@@ -454,24 +454,43 @@ void frmMain::openExistingFile() {
             std::string("Input Files (*.inp)|*.inp|") + "All files (*.*)|*.*", "*.inp", "Open Brooklet file");
         if (!chosen)
             return;
-        context_.windows.closeSessionWindows();
-        const std::string nameBefore = session.CurrentFile;
-        const std::string outputBefore = session.OutputPath;
-        session.CurrentFile = *chosen;
-        session.OutputPath = BaseName(session.CurrentFile) + "out";
-        if (LoadInputFile(context_)) {
-            session.WatershedChecked = false;
-            fileItem(14)->setEnabled(true);
-            fileItem(15)->setEnabled(true);
-            session.DataChanged = false;
-            context_.windows.ShowWindowAtOrigin("frmFlume");
-        } else {
-            // Nothing of the file was loaded: the session goes on as it was before the command.
-            session.CurrentFile = nameBefore;
-            session.OutputPath = outputBefore;
-        }
+        loadChosenFile(*chosen);
     }
     endFileCommand();
+}
+
+void frmMain::loadChosenFile(const std::string& Path) {
+    Session& session = context_.session;
+    context_.windows.closeSessionWindows();
+    const std::string nameBefore = session.CurrentFile;
+    const std::string outputBefore = session.OutputPath;
+    session.CurrentFile = Path;
+    session.OutputPath = BaseName(session.CurrentFile) + "out";
+    if (LoadInputFile(context_)) {
+        session.WatershedChecked = false;
+        fileItem(14)->setEnabled(true);
+        fileItem(15)->setEnabled(true);
+        session.DataChanged = false;
+        context_.windows.ShowWindowAtOrigin("frmFlume");
+    } else {
+        // Nothing of the file was loaded: the session goes on as it was before the command.
+        session.CurrentFile = nameBefore;
+        session.OutputPath = outputBefore;
+    }
+}
+
+bool frmMain::openFile(const std::string& Path) {
+    if (!context_.windows.askAboutTypingInSessionWindows())
+        return false;
+    beginFileCommand();
+    std::string oldName;
+    PromptBeforeLoading(oldName, "another Brooklet input data file ?", cancelled_);
+    if (!cancelled_) {
+        context_.session.LastFolder = DirectoryPart(Path);
+        loadChosenFile(Path);
+    }
+    endFileCommand();
+    return !cancelled_ && context_.session.CurrentFile == Path;
 }
 
 void frmMain::reopenLastSession() {

@@ -59,6 +59,10 @@ public:
 
     // The File menu's commands by item index.
     void fileCommand(int index);
+    // Opens the input file at Path as "Open Existing Brooklet File" does once a file is chosen:
+    // the program started with a file to open, or the desktop handing it one. False when the
+    // file could not be loaded; the session is then as it was.
+    bool openFile(const std::string& Path);
     // Tools, "Check Watershed" (F7): the whole input checked, the findings listed in frmCheck.
     void checkWatershed();
 
@@ -74,6 +78,8 @@ private:
     void endFileCommand();
     void newFile();
     void openExistingFile();
+    // The steps of Open once a file is chosen.
+    void loadChosenFile(const std::string& Path);
     void reopenLastSession();
     void saveFile();
     void saveFileAs();

@@ -119,7 +119,7 @@ bool ValueGridPanel::gridKey(QKeyEvent* key) {
         values_->paste(pasted);
         hooks_.edited();
         // The cell of a value that does not fit is red; the help box says why.
-        const int width = context_.tabular.GridCellWidth;
+        const int width = tables_.GridCellWidth;
         for (const std::string& value : tableOnShow ? pasted : std::vector<std::string>{}) {
             if (!FieldFits(value, width, true)) {
                 hooks_.note(FieldTooLongNote(trim(value), width));

@@ -41,4 +41,20 @@ appstreamcli validate --no-net --pedantic "$root/usr/share/metainfo/org.brooklet
   fail "the description does not validate"
 
 [ "$("$root/usr/bin/brooklet" --version)" = "Brooklet $version" ] || fail "brooklet --version"
+
+# Started as from the menu, with a fresh home folder and in a folder without the program's data
+# files: the program makes its own folder there, copies the installed files in and opens the
+# example watershed.
+home="$scratch/home"
+mkdir -p "$home"
+report="$(cd "$home" && env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$home" QT_QPA_PLATFORM=offscreen \
+          "$root/usr/bin/brooklet" --self-test 2>&1)" || { echo "$report"; fail "brooklet --self-test"; }
+echo "$report"
+folder="$home/.local/share/Brooklet"
+grep -qx "Program folder: $folder/" <<<"$report" || fail "the program folder is not $folder"
+grep -qx "Example watershed: $folder/examples/watershed.inp" <<<"$report" || fail "the example was not the copied one"
+cmp -s "$folder/BrookletHelp.lst" "$root/usr/share/brooklet/BrookletHelp.lst" || fail "the help list was not copied"
+[ "$(head -c -2 "$folder/temp/~filename.tmp")" = "$folder/examples/watershed.inp" ] ||
+  fail "the work files do not belong to the example"
+[ -s "$folder/temp/~SubArea.tmp" ] || fail "the example's sub-areas were not read"
 echo "install test passed: $(basename "$package")"

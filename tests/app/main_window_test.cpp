@@ -763,7 +763,7 @@ TEST_F(MainWindowTest, UpdateViewMenuWithUnsavedDataStopsAfterTheSchematic) {
     main->Form_Activate();
     session().DataChanged = true;
     writeBytes(workFile(8), crlf({"Stream Reach:"})); // a header and no record
-    UpdateViewMenu(*context, main);
+    UpdateViewMenu(context->session, main);
     EXPECT_FALSE(viewItem(0)->isEnabled());
     EXPECT_FALSE(viewItem(1)->isEnabled());
     EXPECT_TRUE(menuShown("mnuView")); // visibility left as it was

@@ -18,6 +18,8 @@
 #include "check/check_window.h"
 #include "session/text_file.h"
 #include "support/ui_fixture.h"
+
+#include "editing/grid_editor.h"
 #include "tables/storm_editor.h"
 
 namespace fs = std::filesystem;
@@ -302,8 +304,11 @@ TEST_F(CheckWindowTest, AFindingOfAnEntryTheEditorHasNotMakesNoNewEntry) {
     EXPECT_EQ(context->watershed.SubAreaCount, 2);
     EXPECT_EQ(control<QComboBox>(editor, "cmbInp(1)")->currentText(), "");
     openFindingOf(StructureSection, "NONE", 2);
-    EXPECT_EQ(control<QComboBox>(context->windows.loaded("frmStruct"), "cmbInp(1)")->currentText(), "");
-    EXPECT_EQ(context->tabular.TableCount, 1);
+    QWidget* structures = context->windows.loaded("frmStruct");
+    EXPECT_EQ(control<QComboBox>(structures, "cmbInp(1)")->currentText(), "");
+    const auto* tables = dynamic_cast<const TabularTablesHolder*>(structures);
+    ASSERT_NE(tables, nullptr);
+    EXPECT_EQ(tables->tabularTables().TableCount, 1);
 }
 
 TEST_F(CheckWindowTest, ASubAreaWindowWorkingOnAnAlternateShowsNoRowOfTheSection) {
