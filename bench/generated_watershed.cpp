@@ -65,7 +65,7 @@ std::string generatedInputFile(const WatershedSize& size) {
         line(tens({"", "", "SHEET", "100.", "0.02", "0.24", "F"}));
         line(tens({"", "", "CHANNEL", "1200.", "3."}));
         line(tens({"", "", "LAND AREA"}) + field("Meadow", 35) + field("B", 5) + number(2 + i % 5));
-        line(tens({"", "", "LAND AREA"}) + field("Woods - good", 35) + field("C", 5) + number(1 + i % 3));
+        line(tens({"", "", "LAND AREA"}) + field("Woods (Good)", 35) + field("C", 5) + number(1 + i % 3));
     }
     line("");
 
@@ -79,8 +79,7 @@ std::string generatedInputFile(const WatershedSize& size) {
         if (i % 50 == 0)
             line(tens({"", "", "BASE FLOW", "2.5"}));
         if (i % 70 == 0)
-            line(tens({"", "", "SPLIT FLOW", reach(i + 7), id("X", i % size.crossSections + 1), "10.", "50.",
-                       "0.2"}));
+            line(tens({"", "", "SPLIT FLOW", reach(i + 7), "", "10.", "50.", "0.2"}));
     }
     line("");
 
@@ -97,7 +96,7 @@ std::string generatedInputFile(const WatershedSize& size) {
         for (int e = 0; e < size.alternateEntries; ++e) {
             const int s = (a * 11 + e) % size.subAreas + 1;
             line(tens({"", id("A", s), reach(s), gage(s), "", "", "0.8"}));
-            line(tens({"", "", "LAND AREA"}) + field("Pasture", 35) + field("B", 5) + "3");
+            line(tens({"", "", "LAND AREA"}) + field("Pasture (Fair)", 35) + field("B", 5) + "3");
         }
     }
     line("");
@@ -128,7 +127,8 @@ std::string generatedInputFile(const WatershedSize& size) {
     for (int i = 1; i <= size.crossSections; ++i) {
         line(tens({"", id("X", i), "100.", "90."}));
         for (int row = 0; row < 8; ++row)
-            line(tens({"", "", number(90 + row), number(row * row * 10), number(row * 5)}));
+            line(tens(
+                {"", "", number(90 + row), number(row * row * 10), number(row * 5), number(20 + row * 4)}));
     }
     line("");
 
