@@ -3,7 +3,6 @@
 // alone on sections already read.
 #include <benchmark/benchmark.h>
 
-#include <map>
 
 #include "check/check_watershed.h"
 #include "generated_watershed.h"
@@ -12,20 +11,6 @@
 
 namespace brooklet::bench {
 namespace {
-
-// A session whose work files hold a generated watershed of n sub-areas and n reaches.
-const Session& loadedWatershed(int n) {
-    static std::map<int, Session> sessions;
-    auto found = sessions.find(n);
-    if (found != sessions.end())
-        return found->second;
-    Session& session = sessions[n];
-    StartSession(session, makeProgramFolder("check-" + std::to_string(n)));
-    session.CurrentFile = session.ProgramFolder + "large.inp";
-    writeFileAtomically(session.CurrentFile, generatedInputFile(scaledWatershed(n)));
-    LoadInputFile(session);
-    return session;
-}
 
 // The work files read for a check, with the standard land uses known, as the Tools menu reads them.
 CheckInput checkInput(const Session& session) {
@@ -37,7 +22,7 @@ CheckInput checkInput(const Session& session) {
 }
 
 void CheckWorkFiles(benchmark::State& state) {
-    const Session& session = loadedWatershed(static_cast<int>(state.range(0)));
+    const Session& session = loadedWatershed("check", static_cast<int>(state.range(0)));
     size_t findings = 0;
     for (auto _ : state) {
         const Findings found = CheckWatershed(checkInput(session));
@@ -49,7 +34,7 @@ void CheckWorkFiles(benchmark::State& state) {
 }
 
 void CheckRulesOnly(benchmark::State& state) {
-    const CheckInput input = checkInput(loadedWatershed(static_cast<int>(state.range(0))));
+    const CheckInput input = checkInput(loadedWatershed("check", static_cast<int>(state.range(0))));
     for (auto _ : state) {
         const Findings found = CheckWatershed(input);
         benchmark::DoNotOptimize(found.data());

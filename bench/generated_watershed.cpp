@@ -1,7 +1,10 @@
 #include "generated_watershed.h"
 
+#include "session/input_file.h"
+
 #include <algorithm>
 #include <filesystem>
+#include <map>
 
 namespace brooklet::bench {
 namespace {
@@ -148,6 +151,20 @@ std::string makeProgramFolder(const std::string& name) {
     std::filesystem::create_directories(root);
     std::filesystem::current_path(root);
     return root.string();
+}
+
+const Session& loadedWatershed(const std::string& Purpose, int n) {
+    static std::map<std::string, Session> sessions;
+    const std::string name = Purpose + "-" + std::to_string(n);
+    auto found = sessions.find(name);
+    if (found != sessions.end())
+        return found->second;
+    Session& session = sessions[name];
+    StartSession(session, makeProgramFolder(name));
+    session.CurrentFile = session.ProgramFolder + "large.inp";
+    writeFileAtomically(session.CurrentFile, generatedInputFile(scaledWatershed(n)));
+    LoadInputFile(session);
+    return session;
 }
 
 } // namespace brooklet::bench

@@ -5,6 +5,8 @@
 #include <initializer_list>
 #include <string>
 
+#include "session/section_table.h"
+
 namespace brooklet::bench {
 
 struct WatershedSize {
@@ -32,5 +34,9 @@ std::string generatedInputFile(const WatershedSize& size = WatershedSize());
 
 // A fresh program folder under the system's temporary folder; made the current folder.
 std::string makeProgramFolder(const std::string& name);
+
+// A session whose work files hold a generated watershed of n sub-areas and n reaches, loaded once
+// a size into a program folder of its own named after Purpose.
+const Session& loadedWatershed(const std::string& Purpose, int n);
 
 } // namespace brooklet::bench

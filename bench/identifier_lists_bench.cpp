@@ -2,7 +2,6 @@
 // plain walk of AddUnique that the fills avoid.
 #include <benchmark/benchmark.h>
 
-#include <map>
 
 #include "editing/identifier_lists.h"
 #include "generated_watershed.h"
@@ -11,22 +10,8 @@
 namespace brooklet::bench {
 namespace {
 
-// A session whose work files hold a generated watershed of n sub-areas and n reaches.
-const Session& loadedWatershed(int n) {
-    static std::map<int, Session> sessions;
-    auto found = sessions.find(n);
-    if (found != sessions.end())
-        return found->second;
-    Session& session = sessions[n];
-    StartSession(session, makeProgramFolder("lists-" + std::to_string(n)));
-    session.CurrentFile = session.ProgramFolder + "large.inp";
-    writeFileAtomically(session.CurrentFile, generatedInputFile(scaledWatershed(n)));
-    LoadInputFile(session);
-    return session;
-}
-
 template <typename Fill> void measureFill(benchmark::State& state, Fill fill) {
-    const Session& session = loadedWatershed(static_cast<int>(state.range(0)));
+    const Session& session = loadedWatershed("lists", static_cast<int>(state.range(0)));
     int items = 0;
     for (auto _ : state) {
         StringList list;
@@ -69,7 +54,7 @@ void FillAlternateListBench(benchmark::State& state) {
 }
 void FindSubAreaFieldBench(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
-    const Session& session = loadedWatershed(n);
+    const Session& session = loadedWatershed("lists", n);
     const std::string last = "A" + std::to_string(n);
     for (auto _ : state) {
         std::string result;

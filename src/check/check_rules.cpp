@@ -94,34 +94,39 @@ std::string reachName(const std::string& alternate, const std::string& id) {
     return alternate.empty() ? "Stream reach " + id : "Alternate " + alternate + ", stream reach " + id;
 }
 
-Finding& addSubAreaFinding(Findings& findings, Severity severity, const std::string& alternate,
-                           const SubAreaEntry& entry, const std::string& field, int box, int line,
+namespace {
+
+// A finding of a network entry: of its own section for the base data, of the alternate section,
+// at the alternate, for an alternate's copy.
+Finding& addNetworkFinding(Findings& findings, Severity severity, int section, const std::string& alternate,
+                           const std::string& id, const std::string& field, int box, int line,
                            const std::string& message) {
     if (alternate.empty()) {
-        Finding& finding = addFinding(findings, severity, SubAreaSection, entry.id, field, line, message);
+        Finding& finding = addFinding(findings, severity, section, id, field, line, message);
         finding.box = box;
         return finding;
     }
     Finding& finding =
-        addFinding(findings, severity, AlternateSection, alternate + ": " + entry.id, field, line, message);
+        addFinding(findings, severity, AlternateSection, alternate + ": " + id, field, line, message);
     finding.entry = alternate;
     finding.box = 1;
     return finding;
 }
 
+} // namespace
+
+Finding& addSubAreaFinding(Findings& findings, Severity severity, const std::string& alternate,
+                           const SubAreaEntry& entry, const std::string& field, int box, int line,
+                           const std::string& message) {
+    return addNetworkFinding(findings, severity, SubAreaSection, alternate, entry.id, field, box, line,
+                             message);
+}
+
 Finding& addReachFinding(Findings& findings, Severity severity, const std::string& alternate,
                          const ReachEntry& entry, const std::string& field, int box, int line,
                          const std::string& message) {
-    if (alternate.empty()) {
-        Finding& finding = addFinding(findings, severity, ReachSection, entry.id, field, line, message);
-        finding.box = box;
-        return finding;
-    }
-    Finding& finding =
-        addFinding(findings, severity, AlternateSection, alternate + ": " + entry.id, field, line, message);
-    finding.entry = alternate;
-    finding.box = 1;
-    return finding;
+    return addNetworkFinding(findings, severity, ReachSection, alternate, entry.id, field, box, line,
+                             message);
 }
 
 bool passesAbove(const std::string& text, double min, bool allowBlank) {

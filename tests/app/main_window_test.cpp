@@ -46,21 +46,6 @@ protected:
         main->activateWindow();
         QApplication::setActiveWindow(main);
     }
-    // An input file in the program folder, from lines.
-    std::string inputFile(const std::string& name, const std::vector<std::string>& lines) {
-        writeBytes(folder.file(name), crlf(lines));
-        return folder.file(name);
-    }
-    // Opens a file through File, "Open Existing Brooklet File".
-    void openFile(const std::string& path) {
-        platform.openPicks.push_back(path);
-        clickMenuItem("mnuFileItem(2)");
-    }
-    // What an editor does when the user accepts: its work file and DataChanged.
-    void acceptEdit(int section, const std::vector<std::string>& lines) {
-        writeBytes(workFile(section), crlf(lines));
-        session().DataChanged = true;
-    }
 };
 
 const std::vector<std::string> Shed = {

@@ -26,19 +26,6 @@ class SessionSafetyTest : public UiTest {
 protected:
     void SetUp() override { startMain(); }
 
-    std::string inputFile(const std::string& name, const std::vector<std::string>& lines) {
-        writeBytes(folder.file(name), crlf(lines));
-        return folder.file(name);
-    }
-    void openFile(const std::string& path) {
-        platform.openPicks.push_back(path);
-        clickMenuItem("mnuFileItem(2)");
-    }
-    // What an editor does when the user accepts: its work file and DataChanged.
-    void acceptEdit(int section, const std::vector<std::string>& lines) {
-        writeBytes(workFile(section), crlf(lines));
-        session().DataChanged = true;
-    }
     // Makes a file impossible to write: a folder stands in its place.
     void blockWriting(const std::string& path) {
         deleteFile(path);

@@ -27,19 +27,6 @@ const std::vector<std::string> Shed = {
 
 class WorkSafetyTest : public UiTest {
 protected:
-    std::string inputFile(const std::string& name, const std::vector<std::string>& lines) {
-        writeBytes(folder.file(name), crlf(lines));
-        return folder.file(name);
-    }
-    void openFile(const std::string& path) {
-        platform.openPicks.push_back(path);
-        clickMenuItem("mnuFileItem(2)");
-    }
-    // What an editor does when the user accepts: its work file and DataChanged.
-    void acceptEdit(int section, const std::vector<std::string>& lines) {
-        writeBytes(workFile(section), crlf(lines));
-        session().DataChanged = true;
-    }
     std::vector<std::string> workFiles() {
         std::vector<std::string> files;
         for (int i = 1; i <= WorkFileCount; ++i)

@@ -96,10 +96,6 @@ protected:
         startMain();
         context->CheckBeforeRunAndSaveAs = true;
     }
-    std::string inputFile(const std::string& name, const std::vector<std::string>& lines) {
-        writeBytes(folder.file(name), crlf(lines));
-        return folder.file(name);
-    }
     // Opens a file as File, "Open Existing Brooklet File" does, and closes frmFlume again.
     void openFile(const std::string& path) {
         platform.openPicks.push_back(path);

@@ -31,6 +31,21 @@ frmMain& UiTest::startMain() {
     return *main;
 }
 
+std::string UiTest::inputFile(const std::string& name, const std::vector<std::string>& lines) {
+    writeBytes(folder.file(name), crlf(lines));
+    return folder.file(name);
+}
+
+void UiTest::openFile(const std::string& path) {
+    platform.openPicks.push_back(path);
+    clickMenuItem("mnuFileItem(2)");
+}
+
+void UiTest::acceptEdit(int section, const std::vector<std::string>& lines) {
+    writeBytes(workFile(section), crlf(lines));
+    session().DataChanged = true;
+}
+
 void UiTest::clickMenuItem(const QString& name) {
     QAction* action = control<QAction>(main, name);
     ASSERT_NE(action, nullptr);

@@ -31,6 +31,12 @@ protected:
     // Triggers a menu item of the main window, as a click on it does.
     void clickMenuItem(const QString& name);
     Session& session() { return context->session; }
+    // An input file in the program folder, from lines; its path.
+    std::string inputFile(const std::string& name, const std::vector<std::string>& lines);
+    // Opens a file through File, "Open Existing Brooklet File", the dialog answered with it.
+    void openFile(const std::string& path);
+    // What an editor does when the user accepts: its work file and DataChanged.
+    void acceptEdit(int section, const std::vector<std::string>& lines);
     // The path of a work file.
     const std::string& workFile(int number) { return context->session.WorkFilePath[number]; }
 
