@@ -41,7 +41,7 @@ public:
     std::optional<std::string> showSaveDialog(const FileDialogSettings&) override { return {}; }
     void endProgram() override {}
     ProgramExit runProgramAndWait(const std::string&, const std::vector<std::string>&, const std::string&,
-                                  const std::vector<std::string>&) override {
+                                  const std::vector<std::string>&, const std::string&) override {
         return {};
     }
     void stopProgram() override {}

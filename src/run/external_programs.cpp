@@ -186,13 +186,47 @@ ProgramStart PlanProgramStart(const Session& session, const std::string& Program
         // Wine reads names in the Windows code page of its locale: under the neutral locale that
         // is the Western European one, in which the control file names the data file.
         start.environment = {"LC_ALL=C.UTF-8"};
+        // Wine tells an unhandled exception on its error output, kept for the judgement.
+        start.errorFile = session.WorkFolder + "~WineMessages.tmp";
         start.throughWine = true;
         start.wineMissing = start.program.empty();
     }
     return start;
 }
 
-JudgedEnd JudgeProgramEnd(const ProgramExit& exit, bool throughWine) {
+namespace {
+
+// The exception of Wine's report of an unhandled one: "wine: Unhandled page fault on ...",
+// "wine: Unhandled stack overflow ...", "wine: Unhandled exception 0xc0000094 in thread ...".
+std::optional<std::uint32_t> unhandledExceptionOf(const std::string& messages) {
+    const std::string report = "wine: Unhandled ";
+    const size_t at = messages.find(report);
+    if (at == std::string::npos)
+        return std::nullopt;
+    const std::string what = messages.substr(at + report.size(), 40);
+    const std::pair<const char*, std::uint32_t> kinds[] = {{"page fault", 0xC0000005},
+                                                           {"stack overflow", 0xC00000FD},
+                                                           {"illegal instruction", 0xC000001D},
+                                                           {"privileged instruction", 0xC0000096},
+                                                           {"division by zero", 0xC0000094}};
+    for (const auto& [words, code] : kinds)
+        if (what.rfind(words, 0) == 0)
+            return code;
+    if (what.rfind("exception 0x", 0) == 0)
+        return static_cast<std::uint32_t>(std::strtoul(what.c_str() + 10, nullptr, 16));
+    return 0;
+}
+
+} // namespace
+
+JudgedEnd JudgeProgramEnd(const ProgramExit& exit, bool throughWine, const std::string& WineMessages) {
+    if (throughWine && exit.end == ProgramEnd::Finished)
+        if (const auto code = unhandledExceptionOf(WineMessages)) {
+            const WindowsException* exception = exceptionOfCode(*code);
+            return {ProgramEnd::Crashed,
+                    "Windows exception " + hexCode(*code) +
+                        (exception ? std::string(", ") + exception->name : std::string()) + ", told by Wine"};
+        }
     const auto code = static_cast<std::uint32_t>(exit.code);
     switch (exit.end) {
     case ProgramEnd::NotStarted:

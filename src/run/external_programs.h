@@ -56,6 +56,7 @@ struct ProgramStart {
     std::vector<std::string> arguments;
     std::string folder;
     std::vector<std::string> environment; // entries "NAME=value" set for the program
+    std::string errorFile;                // where its error output goes; empty for nowhere
     bool throughWine = false;             // a Windows program started through Wine
     bool wineMissing = false;             // a Windows program and no Wine on the PATH: it cannot start
 };
@@ -74,7 +75,12 @@ struct JudgedEnd {
 // system that keeps only the low eight bits of an exit status, Wine's status is that code's low
 // byte (5), which counts as a crash only for a program run through Wine. Any other exit status
 // means nothing.
-JudgedEnd JudgeProgramEnd(const ProgramExit& exit, bool throughWine);
+// Wine's exit status after an unhandled exception is not to be relied on (it is sometimes 0), but
+// Wine always reports one on its error output ("wine: Unhandled page fault ..."): for a program
+// run through Wine, WineMessages holds that output, and such a report is a crash with the code
+// of its exception.
+JudgedEnd JudgeProgramEnd(const ProgramExit& exit, bool throughWine,
+                          const std::string& WineMessages = std::string());
 
 // The question to ask before a program writes its result into ResultFile, with ToolName naming
 // the program; nothing when no file of that name exists.

@@ -30,8 +30,8 @@ ProgramExit CallShell(AppContext& context, const ProgramStart& Command) {
     Hourglass hourglass;
     context.ProgramRunning = true;
     context.windows.runMainActivation();
-    const ProgramExit exit = context.platform.runProgramAndWait(Command.program, Command.arguments,
-                                                                Command.folder, Command.environment);
+    const ProgramExit exit = context.platform.runProgramAndWait(
+        Command.program, Command.arguments, Command.folder, Command.environment, Command.errorFile);
     context.ProgramRunning = false;
     context.windows.runMainActivation();
     return exit;
@@ -49,7 +49,13 @@ bool StartProgramAndWait(AppContext& context, const std::string& ControlFile, co
         context.platform.showBox(*refused);
         return false;
     }
-    const JudgedEnd end = JudgeProgramEnd(CallShell(context, start), start.throughWine);
+    const ProgramExit exit = CallShell(context, start);
+    std::string wineMessages;
+    if (!start.errorFile.empty()) {
+        wineMessages = readFileBytes(start.errorFile).value_or(std::string());
+        deleteFile(start.errorFile);
+    }
+    const JudgedEnd end = JudgeProgramEnd(exit, start.throughWine, wineMessages);
     switch (end.end) {
     case ProgramEnd::NotStarted:
         tell(context, " - NOT FOUND", BoxIcon::None);

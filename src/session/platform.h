@@ -127,10 +127,12 @@ public:
     // ("./flume.exe") or the full path of a program. The folder is taken byte for byte, whatever
     // its encoding. One program runs at a time, in a process group of its own.
     // The environment entries ("NAME=value") are set for the program on top of the program's own.
+    // Its error output goes to the file ErrorFile, replacing it, or nowhere when that is empty.
     virtual ProgramExit runProgramAndWait(const std::string& program,
                                           const std::vector<std::string>& arguments,
                                           const std::string& folder,
-                                          const std::vector<std::string>& environment) = 0;
+                                          const std::vector<std::string>& environment,
+                                          const std::string& ErrorFile) = 0;
     // Ends the program that runs now, if any, with every program it started that still runs in
     // its process group; its wait then ends with ProgramEnd::Stopped.
     virtual void stopProgram() = 0;

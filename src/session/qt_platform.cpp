@@ -137,7 +137,8 @@ std::optional<std::string> QtPlatform::showSaveDialog(const FileDialogSettings& 
 ProgramExit ProgramRunner::runHiddenAndWait(const std::string& program,
                                             const std::vector<std::string>& arguments,
                                             const std::string& folder,
-                                            const std::vector<std::string>& environment) {
+                                            const std::vector<std::string>& environment,
+                                            const std::string& ErrorFile) {
     QProcess process;
     process.setProgram(pathToQt(program));
     QStringList qtArguments;
@@ -169,7 +170,7 @@ ProgramExit ProgramRunner::runHiddenAndWait(const std::string& program,
 #endif
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
+    process.setStandardErrorFile(ErrorFile.empty() ? QProcess::nullDevice() : pathToQt(ErrorFile));
     QEventLoop wait;
     bool started = true;
     QObject::connect(&process, &QProcess::finished, &wait, &QEventLoop::quit);
@@ -424,8 +425,9 @@ std::optional<Bitmap> QtPlatform::clipboardBitmap() {
 ProgramExit QtPlatform::runProgramAndWait(const std::string& program,
                                           const std::vector<std::string>& arguments,
                                           const std::string& folder,
-                                          const std::vector<std::string>& environment) {
-    return runner_.runHiddenAndWait(program, arguments, folder, environment);
+                                          const std::vector<std::string>& environment,
+                                          const std::string& ErrorFile) {
+    return runner_.runHiddenAndWait(program, arguments, folder, environment, ErrorFile);
 }
 
 void QtPlatform::endProgram() {

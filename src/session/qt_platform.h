@@ -18,7 +18,8 @@ namespace brooklet {
 class ProgramRunner {
 public:
     ProgramExit runHiddenAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                 const std::string& folder, const std::vector<std::string>& environment);
+                                 const std::string& folder, const std::vector<std::string>& environment,
+                                 const std::string& ErrorFile);
     // Kills the program that runs now, if any, and its process group.
     void stop();
 
@@ -43,8 +44,8 @@ public:
     std::optional<std::string> showSaveDialog(const FileDialogSettings& dialog) override;
     void endProgram() override;
     ProgramExit runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                  const std::string& folder,
-                                  const std::vector<std::string>& environment) override;
+                                  const std::string& folder, const std::vector<std::string>& environment,
+                                  const std::string& ErrorFile) override;
     void stopProgram() override { runner_.stop(); }
     std::optional<PrinterChoice> showPrinterDialog(const PrinterDialogSettings& dialog) override;
     bool showPrintRangeDialog(PrintRangeRecord& record) override;

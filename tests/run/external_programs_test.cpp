@@ -217,6 +217,30 @@ TEST_F(ExternalProgramsTest, TheQuestionBeforeAResultFileIsWrittenOverAnotherNam
 namespace brooklet::test {
 namespace {
 
+TEST(JudgeProgramEndTest, WinesReportOfAnUnhandledExceptionIsACrashWhateverItsStatus) {
+    const std::string pageFault = "wine: Unhandled page fault on write access to 0000000000000000 at address "
+                                  "000000014000F946 (thread 0238), starting debugger...\n";
+    for (int status : {0, 5, 3}) {
+        const JudgedEnd end = JudgeProgramEnd({ProgramEnd::Finished, status}, true, pageFault);
+        EXPECT_EQ(end.end, ProgramEnd::Crashed) << status;
+        EXPECT_EQ(end.how, "Windows exception 0xC0000005, access violation, told by Wine");
+    }
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, 0}, true,
+                              "wine: Unhandled exception 0xc0000094 in thread 24 at address 0x1400015\n")
+                  .how,
+              "Windows exception 0xC0000094, integer division by zero, told by Wine");
+    EXPECT_EQ(
+        JudgeProgramEnd({ProgramEnd::Finished, 0}, true, "wine: Unhandled stack overflow at address 0\n").how,
+        "Windows exception 0xC00000FD, stack overflow, told by Wine");
+}
+
+TEST(JudgeProgramEndTest, OtherMessagesOfWineAndProgramsOfThisSystemAreNoCrash) {
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, 0}, true, "fixme:ntdll:whatever\n").end,
+              ProgramEnd::Finished);
+    EXPECT_EQ(JudgeProgramEnd({ProgramEnd::Finished, 0}, false, "wine: Unhandled page fault\n").end,
+              ProgramEnd::Finished);
+}
+
 TEST(WindowsCodePageNameTest, WesternLettersTakeTheirPlaceInTheCodePage) {
     EXPECT_EQ(WindowsCodePageName("/tmp/plain name.inp"), "/tmp/plain name.inp");
     EXPECT_EQ(WindowsCodePageName("/tmp/M\xC3\xBChl Bach/Sch\xC3\xA4"

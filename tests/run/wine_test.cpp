@@ -109,16 +109,22 @@ TEST_F(WineTest, ARunWithErrorsShowsTheErrorFile) {
     EXPECT_EQ(viewerText(), "RESULT LINE 1\nRESULT LINE 2\n");
 }
 
-TEST_F(WineTest, ACrashIsToldWithItsExitCode) {
+// Wine's exit status after a crash is sometimes 0; its report on the error output is what counts,
+// so every run of a crashing program is told as a crash with its exception's code.
+TEST_F(WineTest, ACrashIsToldWithItsExceptionCodeEveryTime) {
     orders({"lines out 2", "crash"});
     openSession();
-    run();
-    EXPECT_EQ(
-        platform.boxTexts(),
-        std::vector<std::string>{"Brooklet program file (Flume.exe) ended abnormally (exit code 5 from Wine: "
-                                 "Windows exception 0xC0000005, access violation). Its results may be "
-                                 "incomplete."});
-    EXPECT_EQ(bytesOf(base + "out"), crlf({"RESULT LINE 1", "RESULT LINE 2"}));
+    for (int time = 1; time <= 5; ++time) {
+        platform.boxes.clear();
+        run();
+        EXPECT_EQ(
+            platform.boxTexts(),
+            std::vector<std::string>{"Brooklet program file (Flume.exe) ended abnormally (Windows exception "
+                                     "0xC0000005, access violation, told by Wine). Its results may be "
+                                     "incomplete."})
+            << "run " << time;
+        EXPECT_EQ(bytesOf(base + "out"), crlf({"RESULT LINE 1", "RESULT LINE 2"}));
+    }
 }
 
 TEST_F(WineTest, StopEndsAHangingProgramAndTheProgramItStarted) {

@@ -103,9 +103,10 @@ std::optional<std::string> ScriptedPlatform::showSaveDialog(const FileDialogSett
 ProgramExit ScriptedPlatform::runProgramAndWait(const std::string& program,
                                                 const std::vector<std::string>& arguments,
                                                 const std::string& folder,
-                                                const std::vector<std::string>& environment) {
+                                                const std::vector<std::string>& environment,
+                                                const std::string& ErrorFile) {
     programsRun.push_back({program, arguments, folder, environment});
-    return runner_.runHiddenAndWait(program, arguments, folder, environment);
+    return runner_.runHiddenAndWait(program, arguments, folder, environment, ErrorFile);
 }
 
 namespace {

@@ -23,8 +23,8 @@ public:
     void endProgram() override { ++endCount; }
     // Programs really run, as the program runs them; the start is recorded.
     ProgramExit runProgramAndWait(const std::string& program, const std::vector<std::string>& arguments,
-                                  const std::string& folder,
-                                  const std::vector<std::string>& environment) override;
+                                  const std::string& folder, const std::vector<std::string>& environment,
+                                  const std::string& ErrorFile) override;
     void stopProgram() override {
         ++stopCount;
         runner_.stop();
