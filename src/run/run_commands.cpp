@@ -57,9 +57,17 @@ bool StartProgramAndWait(AppContext& context, const std::string& ControlFile, co
     }
     const JudgedEnd end = JudgeProgramEnd(exit, start.throughWine, wineMessages);
     switch (end.end) {
-    case ProgramEnd::NotStarted:
-        tell(context, " - NOT FOUND", BoxIcon::None);
+    case ProgramEnd::NotStarted: {
+        // A file of the program's name that would not start is no program: the box names it.
+        const std::string file = session.ProgramFolder + ProgramFileName(session, Program);
+        if (fileExists(file))
+            tell(context, " could not be started: the file " + file +
+                              " is not a program this system can run. Put the program itself in the program "
+                              "folder under that name.");
+        else
+            tell(context, " - NOT FOUND", BoxIcon::None);
         return false;
+    }
     case ProgramEnd::Stopped:
         return false; // the Stop command has said so
     case ProgramEnd::Crashed:

@@ -165,6 +165,25 @@ TEST_F(RunCommandsTest, AMissingModelSaysNotFound) {
     EXPECT_TRUE(fileExists(folder.file("flume.fil"))); // written before the start
 }
 
+TEST_F(RunCommandsTest, AModelThatIsNoProgramIsToldByNameWithWhatToDo) {
+    writeBytes(folder.file("flume.exe"), "a page of notes saved under the model's name\r\n");
+    fs::permissions(folder.file("flume.exe"), fs::perms::owner_all);
+    const std::string shed = openSession(folder.file("shed.inp"));
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(
+        platform.boxes[0],
+        (BoxRequest{"Brooklet program file (Flume.exe) could not be started: the file " +
+                        folder.file("flume.exe") +
+                        " is not a program this system can run. Put the program itself in the program folder "
+                        "under that name.",
+                    "BrookletSystem", BoxButtons::Ok, BoxIcon::Exclamation}));
+    EXPECT_EQ(viewer(), nullptr);
+    EXPECT_EQ(bytesOf(shed),
+              crlf({"Brooklet: Version 1.0", "A WATERSHED", "", "Stream Reach:", "  R1        OUTLET"}));
+    EXPECT_FALSE(session().DataChanged);
+}
+
 TEST_F(RunCommandsTest, AControlFileThatCannotBeWrittenStartsNothing) {
     installProgram("flume.exe");
     orders({"lines out 3"});
