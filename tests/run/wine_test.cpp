@@ -1,6 +1,6 @@
 // The model as a real Windows program, started through Wine: a run that leaves its printed page,
 // one that leaves an error file, one that crashes and one that hangs until Stop, all in a program
-// folder whose name holds blanks and letters beyond ASCII.
+// folder whose name holds blanks and letters beyond ASCII; and the converter and the reformatter.
 #include "run/external_programs.h"
 #include "run/file_viewer.h"
 #include "session/text_file.h"
@@ -149,6 +149,36 @@ TEST_F(WineTest, StopEndsAHangingProgramAndTheProgramItStarted) {
     while (standInsRunning() > 0 && !deadline.hasExpired())
         QThread::msleep(20);
     EXPECT_EQ(standInsRunning(), 0) << "a program Wine started for the model outlived the stop";
+}
+
+// The converter and the reformatter as Windows programs: their results are read as from programs
+// of this system.
+TEST_F(WineTest, ConvertThroughWineLoadsTheConvertedFile) {
+    fs::copy_file(BROOKLET_WINDOWS_STAND_IN, here("Flume_Converter.exe"));
+    writeBytes(folder.file("converted.txt"), crlf({"Sub-Area:", "  A1"}));
+    orders({"copy inp " + folder.file("converted.txt")});
+    const std::string old = programFolder + "/alte Daten.dat";
+    writeBytes(old, crlf({"OLD RECORD 1"}));
+    platform.openPicks.push_back(old);
+    clickMenuItem("mnuFileItem(6)");
+    EXPECT_TRUE(platform.boxes.empty()) << platform.boxTexts()[0];
+    EXPECT_EQ(session().CurrentFile, programFolder + "/alte Daten.inp");
+    EXPECT_EQ(bytesOf(programFolder + "/alte Daten.inp"), crlf({"Sub-Area:", "  A1"}));
+    EXPECT_EQ(bytesOf(workFile(11)), crlf({"Sub-Area:", "  A1"}));
+}
+
+TEST_F(WineTest, ImportThroughWineAddsTheReformattedCrossSections) {
+    fs::copy_file(BROOKLET_WINDOWS_STAND_IN, here("Flume_HECRAS_Rating.exe"));
+    writeBytes(folder.file("reformatted.txt"),
+               crlf({"HEC-RAS", "REFORMATTED", "", "RIVER 1", "Stream Cross Section:", "  XS9  a"}));
+    orders({"copy inp " + folder.file("reformatted.txt")});
+    platform.openPicks.push_back(programFolder + "/Fluß.txt");
+    writeBytes(programFolder + "/Fluß.txt", crlf({"HEC-RAS OUTPUT"}));
+    clickMenuItem("mnuFileItem(7)");
+    EXPECT_TRUE(platform.boxes.empty()) << platform.boxTexts()[0];
+    EXPECT_EQ(session().CurrentFile, programFolder + "/Fluß.inp");
+    EXPECT_EQ(bytesOf(workFile(7)), crlf({"Stream Cross Section:", "  XS9  a"}));
+    EXPECT_TRUE(session().DataChanged);
 }
 
 } // namespace

@@ -1,7 +1,10 @@
-/* A stand-in for the model as a Windows console program, for the tests that run it through Wine.
-   Started with no arguments in the program folder, it reads the data file from the first line of
-   "flume.fil", then follows the orders of "stand_in_orders.txt", one order a line:
+/* A stand-in for the model, the converter and the reformatter as a Windows console program, for
+   the tests that run them through Wine. Started with no arguments in the program folder, it reads
+   the data file from the first line of the control file that belongs to its own name ("flume.fil",
+   "flumeConv.fil" or "flume_HECRAS.fil"), then follows the orders of "stand_in_orders.txt", one
+   order a line:
      lines EXT N   writes BASE.EXT with N lines
+     copy EXT FILE copies FILE to BASE.EXT
      crash         ends at once by an access violation
      hang          starts a second copy of itself that waits for ever, then waits for ever
    BASE is the data file without its extension. The data file's name is kept in
@@ -25,8 +28,13 @@ int main(int argc, char** argv) {
     if (argc > 1 && strcmp(argv[1], "child") == 0)
         waitForEver();
 
+    char self[MAX_PATH] = "";
+    GetModuleFileNameA(NULL, self, sizeof self);
+    const char* controlFile = strstr(self, "Converter") ? "flumeConv.fil"
+                              : strstr(self, "HECRAS")  ? "flume_HECRAS.fil"
+                                                        : "flume.fil";
     char dataFile[4096] = "";
-    FILE* control = fopen("flume.fil", "rb");
+    FILE* control = fopen(controlFile, "rb");
     if (control) {
         if (!fgets(dataFile, sizeof dataFile, control))
             dataFile[0] = '\0';
@@ -57,9 +65,7 @@ int main(int argc, char** argv) {
             volatile int* nowhere = NULL;
             *nowhere = 1;
         } else if (strcmp(order, "hang") == 0) {
-            char self[MAX_PATH];
             char commandLine[MAX_PATH + 16];
-            GetModuleFileNameA(NULL, self, sizeof self);
             snprintf(commandLine, sizeof commandLine, "\"%s\" child", self);
             STARTUPINFOA startup;
             memset(&startup, 0, sizeof startup);
@@ -73,6 +79,20 @@ int main(int argc, char** argv) {
                 }
             }
             waitForEver();
+        } else if (strncmp(order, "copy ", 5) == 0 && sscanf(order + 5, "%15s", extension) == 1) {
+            const char* source = order + 5 + strlen(extension) + 1;
+            char path[4200];
+            snprintf(path, sizeof path, "%s%s", base, extension);
+            FILE* in = fopen(source, "rb");
+            FILE* out = in ? fopen(path, "wb") : NULL;
+            char buffer[4096];
+            size_t got;
+            while (out && (got = fread(buffer, 1, sizeof buffer, in)) > 0)
+                fwrite(buffer, 1, got, out);
+            if (out)
+                fclose(out);
+            if (in)
+                fclose(in);
         } else if (sscanf(order, "lines %15s %d", extension, &count) == 2) {
             char path[4200];
             snprintf(path, sizeof path, "%s%s", base, extension);
