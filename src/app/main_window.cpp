@@ -446,7 +446,6 @@ void frmMain::openExistingFile() {
     if (!context_.windows.askAboutTypingInSessionWindows())
         return;
     beginFileCommand();
-    Session& session = context_.session;
     std::string oldName;
     PromptBeforeLoading(oldName, "another Brooklet input data file ?", cancelled_);
     if (!cancelled_) {
