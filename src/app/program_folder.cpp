@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 namespace brooklet {
@@ -32,12 +33,27 @@ void copyIfMissing(const fs::path& from, const fs::path& to) {
     fs::copy_file(from, to, error);
 }
 
+// The box for a help list file that is there but cannot be read (no right to read it, or a
+// folder standing in its place), with what to do.
+std::optional<BoxRequest> unreadableHelpList(const fs::path& folder) {
+    const fs::path file = folder / HelpListName;
+    std::error_code error;
+    if (!fs::exists(file, error) ||
+        (fs::is_regular_file(file, error) && std::ifstream(file, std::ios::binary)))
+        return std::nullopt;
+    return BoxRequest{
+        "The help list file " + file.string() +
+            " cannot be read, so the help boxes of the entry windows stay empty. Give your user "
+            "the right to read it, or copy it anew from Brooklet's installation.",
+        BoxTitle, BoxButtons::Ok, BoxIcon::Exclamation};
+}
+
 } // namespace
 
 ProgramFolderChoice ChooseProgramFolder(const std::string& startFolder, const std::string& userFolder,
                                         const std::string& installedDataFolder) {
     if (holdsHelpList(startFolder))
-        return {startFolder, std::nullopt};
+        return {startFolder, unreadableHelpList(startFolder)};
 
     const fs::path user(userFolder);
     std::error_code error;
@@ -57,8 +73,8 @@ ProgramFolderChoice ChooseProgramFolder(const std::string& startFolder, const st
     for (const char* example : {"watershed.inp", "watershed.out", "README.txt"})
         copyIfMissing(installed / "examples" / example, user / "examples" / example);
 
-    ProgramFolderChoice choice{userFolder, std::nullopt};
-    if (!holdsHelpList(user))
+    ProgramFolderChoice choice{userFolder, unreadableHelpList(user)};
+    if (!choice.box && !holdsHelpList(user))
         choice.box = BoxRequest{"The help list file " + (user / HelpListName).string() +
                                     " is missing, so the help boxes of the entry windows stay empty. Copy " +
                                     HelpListName + " of Brooklet's installation (" + installedDataFolder +

@@ -78,5 +78,17 @@ TEST_F(ProgramFolderChoiceTest, AMissingHelpListIsToldWithWhereToFindIt) {
                                     installed + ") into that folder.");
 }
 
+TEST_F(ProgramFolderChoiceTest, AHelpListThatCannotBeReadIsToldWithWhatToDo) {
+    // A folder in the file's place cannot be read as a file, not even by root.
+    fs::create_directories(user + "/BrookletHelp.lst");
+    const auto choice = ChooseProgramFolder(start, user, installed);
+    EXPECT_EQ(choice.folder, user) << "a folder of that name is no help list";
+    ASSERT_TRUE(choice.box.has_value());
+    EXPECT_EQ(choice.box->text,
+              "The help list file " + user + "/BrookletHelp.lst" +
+                  " cannot be read, so the help boxes of the entry windows stay empty. Give your "
+                  "user the right to read it, or copy it anew from Brooklet's installation.");
+}
+
 } // namespace
 } // namespace brooklet::test
