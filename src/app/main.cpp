@@ -39,8 +39,23 @@ public:
 };
 
 // Opens the example watershed of the program folder (or of the installation) through the main
-// window, as a user would, and tells what came of it. 0 when every section of it was read.
-int selfTest(frmMain& main, const Session& session) {
+// window, as a user would, and tells what came of it. 0 when every section of it was read. The
+// test works in work files and a land use file of its own, removed afterwards, so the work files
+// of the user's last session and the user's own land uses stay as they were.
+int selfTest(frmMain& main, Session& session) {
+    const std::string own = session.WorkFolder + "self-test" + folderSeparator();
+    std::error_code error;
+    std::filesystem::remove_all(own, error);
+    if (!createFolder(own)) {
+        std::printf("FAILED: the folder %s could not be made\n", own.c_str());
+        return 1;
+    }
+    session.WorkFolder = own;
+    for (int number = 1; number <= WorkFileCount; ++number)
+        session.WorkFilePath[number] = own + workFileName(number);
+    session.LocalLandUseFile = own + "Local_Land_Use_Data.txt";
+    session.LocalSoilFile = own + "Local_Soil_HSG.txt";
+
     std::string example = session.ProgramFolder + "examples" + folderSeparator() + "watershed.inp";
     if (!fileExists(example))
         example =
@@ -53,6 +68,7 @@ int selfTest(frmMain& main, const Session& session) {
     std::printf("Brooklet %s\nProgram folder: %s\nExample watershed: %s\nSections with data: %d\n%s\n",
                 ProgramVersion, session.ProgramFolder.c_str(), example.c_str(), sections,
                 opened && noted && sections > 0 ? "The example watershed was opened." : "FAILED");
+    std::filesystem::remove_all(own, error);
     return opened && noted && sections > 0 ? 0 : 1;
 }
 

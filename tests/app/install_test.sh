@@ -54,7 +54,17 @@ folder="$home/.local/share/Brooklet"
 grep -qx "Program folder: $folder/" <<<"$report" || fail "the program folder is not $folder"
 grep -qx "Example watershed: $folder/examples/watershed.inp" <<<"$report" || fail "the example was not the copied one"
 cmp -s "$folder/BrookletHelp.lst" "$root/usr/share/brooklet/BrookletHelp.lst" || fail "the help list was not copied"
-[ "$(head -c -2 "$folder/temp/~filename.tmp")" = "$folder/examples/watershed.inp" ] ||
-  fail "the work files do not belong to the example"
-[ -s "$folder/temp/~SubArea.tmp" ] || fail "the example's sub-areas were not read"
+grep -qx "Sections with data: 14" <<<"$report" || fail "the example's sections were not all read"
+
+# A second self-test leaves the work files of the user's last session and the user's own land
+# uses as they were.
+printf '%s\r\n' "$home/shed.inp" >"$folder/temp/~filename.tmp"
+printf 'Sub-Area:\r\n  UNSAVED\r\n' >"$folder/temp/~SubArea.tmp"
+printf '"My Lawn","39","61","74","80"\r\n' >"$folder/Local_Land_Use_Data.txt"
+before="$(cd "$folder" && cat temp/~filename.tmp temp/~SubArea.tmp Local_Land_Use_Data.txt | md5sum)"
+(cd "$home" && env -u XDG_DATA_HOME HOME="$home" QT_QPA_PLATFORM=offscreen "$root/usr/bin/brooklet" --self-test \
+  >/dev/null 2>&1) || fail "the second brooklet --self-test"
+after="$(cd "$folder" && cat temp/~filename.tmp temp/~SubArea.tmp Local_Land_Use_Data.txt | md5sum)"
+[ "$before" = "$after" ] || fail "the self-test changed the last session's work files or the user's land uses"
+[ ! -e "$folder/temp/self-test" ] || fail "the self-test left its work files behind"
 echo "install test passed: $(basename "$package")"
